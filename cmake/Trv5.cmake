@@ -1,0 +1,55 @@
+# What every target of the project has in common, and the function that makes a layer.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(trv5_options INTERFACE)
+target_compile_options(trv5_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wformat=2
+  -Werror)
+if(TRV5_SANITIZE)
+  target_compile_options(trv5_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_compile_definitions(trv5_options INTERFACE _GLIBCXX_ASSERTIONS)
+  target_link_options(trv5_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder. Its
+# include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/vote_counter.h" is found by the
+# users of engine only and an include in the wrong direction doesn't build.
+function(trv5_layer name)
+  cmake_parse_arguments(L "" "" "USES;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h
+       ${CMAKE_CURRENT_SOURCE_DIR}/formats/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/formats/*.h)
+  add_library(trv5_${name} STATIC ${sources})
+  set_target_properties(trv5_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  set(root ${CMAKE_BINARY_DIR}/roots/${name})
+  file(MAKE_DIRECTORY ${root})
+  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${name} SYMBOLIC)
+  target_include_directories(trv5_${name} PUBLIC ${root})
+  list(TRANSFORM L_USES PREPEND trv5_)
+  target_link_libraries(trv5_${name} PUBLIC ${L_USES} ${L_LINKS} PRIVATE trv5_options)
+endfunction()
+
+# trv5_tests(engine USES engine): the test program of one folder of tests/, each test of it known to CTest by its name.
+function(trv5_tests name)
+  cmake_parse_arguments(T "" "" "USES;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(test_${name} ${sources})
+  list(TRANSFORM T_USES PREPEND trv5_)
+  target_link_libraries(test_${name} PRIVATE ${T_USES} ${T_LINKS} trv5_options trv5_test_support GTest::gtest_main
+                        GTest::gmock)
+  target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_MODE PRE_TEST)
+endfunction()

@@ -1,0 +1,70 @@
+#include "core/archive.h"
+
+#include <stdexcept>
+
+#include "core/text.h"
+
+namespace trv5 {
+namespace {
+
+constexpr std::size_t kSlots =
+    Archive::kMaxDraws + 2;  // one beyond the last draw: "the next draw" of the last is empty
+
+}  // namespace
+
+Archive::Archive()
+    : m_shown(kSlots * kDrawBytes), m_numbers(kSlots * kDrawBytes), m_dates(kSlots), m_month(kSlots), m_year(kSlots) {}
+
+void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
+  if (rows.size() > kMaxDraws) throw std::length_error("more than 9999 draws");
+  m_shown.assign(kSlots * kDrawBytes, 0);
+  m_dates.assign(kSlots, {});
+  std::size_t at = kDrawBytes;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    m_dates[i + 1] = rows[i].date;
+    for (const std::string& wheel : rows[i].wheels)
+      for (std::size_t position = 0; position < kPositions; ++position, ++at)
+        if (wheel.size() > position * 3)
+          m_shown[at] = static_cast<std::uint8_t>(numberOf(std::string_view(wheel).substr(position * 3, 2)));
+  }
+  m_numbers = m_shown;
+  for (std::uint8_t& n : m_numbers)
+    if (n > 90) n = 0;
+  m_count = static_cast<int>(rows.size());
+}
+
+void Archive::countProgressives() {
+  m_month.assign(kSlots, 0);
+  m_year.assign(kSlots, 0);
+  std::string_view month, year;
+  std::int16_t inMonth = 0, inYear = 0;
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(m_count); ++i) {
+    const std::string_view date = m_dates[i];
+    const std::string_view itsMonth = date.size() >= 5 ? date.substr(3, 2) : std::string_view();
+    const std::string_view itsYear = date.size() >= 10 ? date.substr(6, 4) : std::string_view();
+    if (i == 1 || itsMonth != month) inMonth = 0;
+    if (i == 1 || itsYear != year) inYear = 0;
+    month = itsMonth;
+    year = itsYear;
+    m_month[i] = ++inMonth;
+    m_year[i] = ++inYear;
+  }
+}
+
+void Archive::setModelFrom(int first) {
+  if (first < 0 || first > m_count || m_count == 0) throw std::out_of_range("the model archive would be empty");
+  m_last = m_count;
+  m_model.clear();
+  for (int i = first; i <= m_count; ++i) m_model.push_back(i);
+}
+
+void Archive::blankModel() {
+  m_last = m_count;
+  m_model.assign(static_cast<std::size_t>(m_count), 0);
+}
+
+void Archive::setWholeModel() {
+  for (std::size_t i = 0; i < m_model.size(); ++i) m_model[i] = static_cast<int>(i) + 1;
+}
+
+}  // namespace trv5

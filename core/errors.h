@@ -1,0 +1,20 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace trv5 {
+
+/// What went wrong in the world outside (disk, database, a file's contents), in Italian, ready to be shown: what was
+/// tried, on which file, and the reason. The one handler around operations shows it in a box.
+class UserError : public std::runtime_error {
+ public:
+  explicit UserError(const std::string& text, std::string title = "Avviso")
+      : std::runtime_error(text), m_title(std::move(title)) {}
+  const std::string& title() const { return m_title; }
+
+ private:
+  std::string m_title;
+};
+
+}  // namespace trv5

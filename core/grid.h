@@ -1,0 +1,159 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/palette.h"
+
+namespace trv5 {
+
+/// One cell of a grid. A white back and a black ink are the same as none.
+struct Cell {
+  std::string text;
+  Rgb back = kWhite;
+  Rgb fore = kBlack;
+  bool bold = false;
+  bool operator==(const Cell&) const = default;
+};
+
+/// A bar drawn in a cell: filled from the left over `percent` (0..100) of the cell's width.
+struct Bar {
+  double percent = 0;
+  Rgb colour = kWhite;
+  bool operator==(const Bar&) const = default;
+};
+
+/// What a grid tells its listener.
+struct GridChange {
+  enum class What { Cell, All, Current } what = What::All;
+  int row = 0, column = 0;  ///< of the cell, where one cell changed
+};
+
+/// A table of text cells with colours: the working store of the workbench. Operations communicate through grids, and
+/// through the colours of their cells, so a grid is a value that tests copy and compare. Rows and columns count from 0;
+/// with a heading (headingRows() == 1) row 0 holds it and the data begins at row 1.
+class Grid {
+ public:
+  Grid() = default;
+  /// `rows` x `columns` blank cells, no heading.
+  Grid(int rows, int columns);
+  /// A heading row alone: one column a piece of `heading` between '|'.
+  explicit Grid(std::string_view heading);
+
+  // The listener belongs to one grid: copies have none, and assignment keeps the target's and tells it.
+  Grid(const Grid& other);
+  Grid& operator=(const Grid& other);
+  ~Grid() = default;
+
+  int rows() const { return m_rows; }
+  int columns() const { return m_columns; }
+  int headingRows() const { return m_headingRows; }
+  /// Rows below the heading.
+  int dataRows() const { return m_rows - m_headingRows; }
+  bool hasData() const { return m_rows > m_headingRows; }
+
+  const Cell& at(int row, int column) const { return m_cells[index(row, column)]; }
+  const std::string& text(int row, int column) const { return at(row, column).text; }
+  /// The cell read as a number: leading digits, 0 when there are none.
+  int number(int row, int column) const;
+  Rgb back(int row, int column) const { return at(row, column).back; }
+
+  void setText(int row, int column, std::string_view text);
+  void setNumber(int row, int column, int value);
+  void setBack(int row, int column, Rgb back);
+  void setFore(int row, int column, Rgb fore);
+  void setBold(int row, int column, bool bold = true);
+  void setCell(int row, int column, const Cell& cell);
+  void clearTexts();  ///< all texts, colours stay
+
+  /// Sets the row count: grows by blank rows, or cuts from the end. A cut clears the current row.
+  void setRows(int rows);
+  void cutToHeading() { setRows(m_headingRows); }
+  /// Appends a blank row; returns its index.
+  int appendRow();
+  /// Removes a data row and clears the current row.
+  void removeRow(int row);
+  /// Keeps the data rows for which `keep` holds, in their order; clears the current row when one goes.
+  void keepRows(const std::function<bool(int row)>& keep);
+  /// Sets the column count; new cells are blank.
+  void setColumns(int columns);
+
+  /// Stable sort of the data rows by the cells of one column read as numbers. The current row keeps its index.
+  void sortByNumber(int column, bool descending);
+  /// Stable sort of the data rows by the numbers of several columns, ascending, the first column first.
+  void sortByNumbers(const std::vector<int>& columns);
+
+  /// The current row, -1 for none.
+  int current() const { return m_current; }
+  int currentColumn() const { return m_currentColumn; }
+  void setCurrent(int row, int column = 0);
+
+  bool rowHidden(int row) const { return m_hiddenRows.contains(row); }
+  void setRowHidden(int row, bool hidden);
+  const std::set<int>& hiddenRows() const { return m_hiddenRows; }
+  bool columnHidden(int column) const { return m_hiddenColumns.contains(column); }
+  void setColumnHidden(int column, bool hidden = true);
+  const std::set<int>& hiddenColumns() const { return m_hiddenColumns; }
+  /// Columns whose equal neighbouring cells are shown as one.
+  const std::set<int>& mergedColumns() const { return m_merged; }
+  void setMerged(std::set<int> columns);
+  const std::map<std::pair<int, int>, Bar>& bars() const { return m_bars; }
+  void setBar(int row, int column, Bar bar);
+  void removeBar(int row, int column);
+  void clearBars();
+  /// Width of a column as told in the grid's own unit, 0 where none is told.
+  int width(int column) const;
+  void setWidth(int column, int width);
+  /// Height of the rows and width of the columns as told in the grid's own unit, 0 where none is told.
+  int cellSize() const { return m_cellSize; }
+  void setCellSize(int size);
+  /// Choices offered when a cell of the column is edited; columns without are not editable.
+  const std::vector<std::string>* choices(int column) const;
+  void setChoices(int column, std::vector<std::string> choices);
+
+  /// Equal when all that a user could see or an operation read is equal.
+  bool operator==(const Grid& other) const;
+
+  /// Called after each change, or once after a batch.
+  void setListener(std::function<void(const GridChange&)> listener) { m_listener = std::move(listener); }
+
+  /// Groups all changes made during its life into one notice.
+  class Batch {
+   public:
+    explicit Batch(Grid& grid) : m_grid(grid) { ++m_grid.m_batch; }
+    ~Batch();
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+
+   private:
+    Grid& m_grid;
+  };
+
+ private:
+  std::size_t index(int row, int column) const {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) + static_cast<std::size_t>(column);
+  }
+  Cell& cell(int row, int column) { return m_cells[index(row, column)]; }
+  void reorder(const std::vector<int>& order);  // order[i]: the old row that becomes data row i
+  void notify(GridChange change);
+
+  int m_rows = 0, m_columns = 0, m_headingRows = 0;
+  std::vector<Cell> m_cells;  // row by row
+  int m_current = -1, m_currentColumn = 0;
+  std::set<int> m_hiddenRows, m_hiddenColumns, m_merged;
+  std::map<std::pair<int, int>, Bar> m_bars;
+  std::map<int, int> m_widths;
+  int m_cellSize = 0;
+  std::map<int, std::vector<std::string>> m_choices;
+
+  std::function<void(const GridChange&)> m_listener;
+  int m_batch = 0;
+  bool m_pending = false;
+};
+
+}  // namespace trv5

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/grid.h"
+
+namespace trv5 {
+
+class Form;
+
+enum class Icon { None, Information, Exclamation, Critical, Question };
+
+/// A message or question box. Where nothing else is told the title is "Avviso" and the icon an exclamation mark.
+struct Box {
+  std::string text;
+  std::string title = "Avviso";
+  Icon icon = Icon::Exclamation;
+};
+
+/// A box that asks for a line of text.
+struct InputBox {
+  std::string text;
+  std::string title;
+  std::string initial = {};      ///< what stands in the field at first
+  std::string placeholder = {};  ///< the expected form, shown while the field is empty
+};
+
+/// A box that asks for a file.
+struct FileBox {
+  std::string title;
+  std::filesystem::path folder;
+  std::string filter = {};            ///< a pattern such as "*.mdb"
+  std::string defaultExtension = {};  ///< added to a name typed without one, no dot
+};
+
+/// How a grid is printed. Margins in twentieths of a point, the grids' own unit.
+struct PrintSetup {
+  std::string title = {};
+  bool landscape = true;
+  int horizontalMargin = 450;
+  int verticalMargin = 450;
+};
+
+/// A moment of local time.
+struct DateTime {
+  int year = 1, month = 1, day = 1, hour = 0, minute = 0, second = 0;
+  bool operator==(const DateTime&) const = default;
+};
+
+/// "HH:MM:SS", as the log lists show it.
+std::string timeText(const DateTime& moment);
+
+/// Everything that an operation asks of the outside. The desktop has one implementation, the console another, tests a
+/// third; no operation shows a box, reads a clock or touches the clipboard in another way.
+class Shell {
+ public:
+  virtual ~Shell() = default;
+
+  virtual void message(const Box& box) = 0;
+  /// True when the user chose Yes.
+  virtual bool confirm(const Box& box) = 0;
+  /// The text entered, nothing when cancelled.
+  virtual std::optional<std::string> input(const InputBox& box) = 0;
+  /// The file chosen, nothing when cancelled.
+  virtual std::optional<std::filesystem::path> chooseOpen(const FileBox& box) = 0;
+  virtual std::optional<std::filesystem::path> chooseSave(const FileBox& box) = 0;
+  /// Prints with a preview; the heading row on each page.
+  virtual void print(const Grid& grid, const PrintSetup& setup) = 0;
+
+  virtual std::string clipboard() = 0;
+  virtual void setClipboard(const std::string& text) = 0;
+
+  /// Opens the screen on first use, brings it to the front, and gives its controls. Throws UserError for a screen that
+  /// the program doesn't have.
+  virtual Form& show(std::string_view screen) = 0;
+  virtual void close(std::string_view screen) = 0;
+  /// The help page of a context number.
+  virtual void help(int context) = 0;
+  virtual void openAddress(const std::string& url) = 0;
+  /// The bar of the shell: 0..maximum.
+  virtual void progress(int value, int maximum) = 0;
+  /// One line about what the last operation did.
+  virtual void status(const std::string& text) = 0;
+  virtual DateTime now() = 0;
+  /// Ends the program.
+  virtual void quit() = 0;
+};
+
+}  // namespace trv5

@@ -1,0 +1,58 @@
+#include "core/text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace trv5 {
+namespace {
+
+constexpr int kHighest = 32767;
+
+bool isBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+}  // namespace
+
+int numberOf(std::string_view text) {
+  std::size_t i = 0;
+  while (i < text.size() && isBlank(text[i])) ++i;
+  int value = 0;
+  for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
+    value = std::min(kHighest, value * 10 + (text[i] - '0'));
+  return value;
+}
+
+std::string twoDigits(int value) {
+  const std::string text = std::to_string(value);
+  return text.size() < 2 ? "0" + text : text;
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+std::vector<std::string> split(std::string_view text, char separator) {
+  std::vector<std::string> pieces;
+  for (std::size_t start = 0;;) {
+    const std::size_t end = text.find(separator, start);
+    pieces.emplace_back(text.substr(start, end - start));
+    if (end == std::string_view::npos) return pieces;
+    start = end + 1;
+  }
+}
+
+std::vector<int> numbersEveryThree(std::string_view text) {
+  std::vector<int> numbers;
+  for (std::size_t at = 0; at < text.size(); at += 3) numbers.push_back(numberOf(text.substr(at, 2)));
+  return numbers;
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+}  // namespace trv5
