@@ -162,6 +162,11 @@ Check::Check(Form& form, std::string name, std::string caption, std::string tool
   setToolTip(std::move(toolTip));
 }
 
+void Check::setCaption(std::string caption) {
+  m_caption = std::move(caption);
+  changed();
+}
+
 void Check::set(bool checked) {
   if (m_checked == checked) return;
   m_checked = checked;
@@ -206,6 +211,14 @@ void Tabs::set(int index) {
   m_index = index;
   changed();
   fire();
+}
+
+void Tabs::setTabEnabled(int index, bool enabled) {
+  if (enabled)
+    m_disabled.erase(index);
+  else
+    m_disabled.insert(index);
+  changed();
 }
 
 void LineList::clear() {

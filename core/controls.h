@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -160,6 +161,7 @@ class Check : public Control {
  public:
   Check(Form& form, std::string name, std::string caption = {}, std::string toolTip = {});
   const std::string& caption() const { return m_caption; }
+  void setCaption(std::string caption);
   bool checked() const { return m_checked; }
   /// Fires only when the state changes.
   void set(bool checked);
@@ -208,10 +210,14 @@ class Tabs : public Control {
   int index() const { return m_index; }
   /// Brings a tab to the front; fires only when it changes. Ignores an index that no tab has.
   void set(int index);
+  /// A tab that has nothing to offer yet can't be reached by the user; operations may still bring it to the front.
+  void setTabEnabled(int index, bool enabled);
+  bool tabEnabled(int index) const { return !m_disabled.contains(index); }
 
  private:
   std::vector<std::pair<int, std::string>> m_captions;
   int m_index;
+  std::set<int> m_disabled;
 };
 
 /// A list of lines, such as a log.

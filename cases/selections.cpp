@@ -1,0 +1,243 @@
+#include "cases/selections.h"
+
+#include <string>
+
+#include "core/text.h"
+
+namespace trv5 {
+namespace {
+
+std::vector<std::string> numbers(int from, int to) {
+  std::vector<std::string> items;
+  for (int n = from; n <= to; ++n) items.push_back(std::to_string(n));
+  return items;
+}
+
+std::vector<std::string> withFirst(std::string first, std::vector<std::string> items) {
+  items.insert(items.begin(), std::move(first));
+  return items;
+}
+
+void fill(Combo& combo, std::vector<std::string> items, int selected) {
+  combo.setItems(std::move(items));
+  combo.select(selected);
+}
+
+void fillLists(Workbench& w) {
+  fill(w.ComboFiltro, {"Mensile", "Numeri", "Distanza", "Differenza", "Somma", "Ciclo", "Num Pari"}, 0);
+  fill(w.ComboPar, withFirst("U", numbers(1, 31)), -1);
+  fill(w.ComboR1, {CodiciRuote.begin(), CodiciRuote.begin() + kWheels}, 0);
+  fill(w.ComboNC, numbers(1, 50), 9);
+  fill(w.ComboQNu, numbers(1, 5), 0);
+  fill(w.ComboColpi, numbers(1, 20), 9);
+  fill(w.ComboEle, {"50", "100"}, 0);
+  fill(w.ComboRetro, numbers(0, 10), 0);
+  fill(w.ComboQNR1, numbers(1, 5), 0);
+  fill(w.ComboQNR2, numbers(1, 5), 0);
+  fill(w.ComboValF, numbers(0, 9), 0);
+  fill(w.ComboSorte, numbers(1, 5), 0);
+  fill(w.ComboDelta, numbers(0, 5), 0);
+  fill(w.Combo1R_1N, {"", "C91", "CAD", "DEC", "DIAM", "DIDE", "D x U", "FIG", "VERT"}, 0);
+  // The empty item stands for the first operator.
+  fill(w.Combo1R_2N, {"", "N1 + N2", "N1 - N2", "N2 - N1", "N1 X N2", "D1 e U2", "D2 e U1"}, 0);
+}
+
+void hideColumns(Grid& grid, std::initializer_list<int> columns) {
+  for (int column : columns) grid.setColumnHidden(column);
+}
+
+void hideWorkingColumns(Workbench& w) {
+  hideColumns(w.FgF, {1, 4, 7, 14, 15, 16, 19, 20});
+  for (Grid* formulas : {&w.Fg00.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid()})
+    hideColumns(*formulas, {1, 4, 7, 14, 15, 16, 18, 19, 20, 21});
+  hideColumns(w.FgEv, {20, 21});
+  hideColumns(w.FgSSS, {3, 4});
+  for (Grid* hits : {&w.FgZ0.grid(), &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgZ100.grid()})
+    hideColumns(*hits, {4, 5, 6, 7, 8, 9, 10, 11, 12});
+  hideColumns(w.Fg15, {4, 5});
+  hideColumns(w.FgRagg, {2});
+}
+
+void paintAll(Grid& grid, Rgb colour) {
+  const Grid::Batch batch(grid);
+  for (int row = 0; row < grid.rows(); ++row)
+    for (int column = 0; column < grid.columns(); ++column) grid.setBack(row, column, colour);
+}
+
+void toggle(Grid& grid, int row, int column, Rgb chosen) {
+  if (row < 0 || row >= grid.rows() || column < 0 || column >= grid.columns()) return;
+  grid.setBack(row, column, grid.back(row, column) == chosen ? kWhite : chosen);
+}
+
+void fillSelectionGrids(Workbench& w) {
+  for (int wheel = 0; wheel < kWheels; ++wheel) {
+    w.FgRG.setText(0, wheel, CodiciRuote[static_cast<std::size_t>(wheel)]);
+    w.FgRR.setText(0, wheel, CodiciRuote[static_cast<std::size_t>(wheel)]);
+  }
+  w.FgRG.setBack(0, 0, Verde);
+  for (int n = 1; n <= kMostNumber; ++n) w.FgNu.setText((n - 1) / 10, (n - 1) % 10, twoDigits(n));
+}
+
+void fillStatisticsCaptions(Workbench& w) {
+  const char* const statistics[] = {"Sez", "N°C", "Cop", "Pos", "Neg", "InG", "1", "2", "3", "4", "5"};
+  for (int row = 0; row < 11; ++row) w.Fg_Stat.setText(row, 0, statistics[row]);
+  const char* const bars[] = {"Casi Coperti", "Negativi", "In corso"};
+  for (int row = 0; row < 3; ++row) w.Fg_Graf.setText(row, 0, bars[row]);
+  const int widths[] = {1500, 800, 4000};
+  for (int column = 0; column < 3; ++column) w.Fg_Graf.setWidth(column, widths[column]);
+}
+
+void captionArrays(Workbench& w) {
+  w.Label1[0].setText("Gioco");
+  w.Label1[1].setText("Colpi");
+  for (const auto& [index, label] : w.Label1)
+    label->setToolTip("Deseleziona tutte le ruote di gioco, fino alla prossima rilevazione");
+  for (const auto& [position, label] : w.LblPN) {
+    label->setText(std::to_string(position));
+    label->setBack(kWhite);
+  }
+  const std::pair<int, const char*> sorti[] = {{1, "1"}, {2, "2"}, {3, "3"}, {6, "L"}};
+  for (const auto& [index, caption] : sorti) {
+    w.Cmd_LaSorte[index].setCaption(caption);
+    w.Cmd_LaSorte[index].setToolTip("Aggiunge previsione");
+  }
+  const std::pair<int, const char*> filters[] = {{0, "L"}, {1, "1"}, {2, "2"}, {3, "3"}};
+  for (const auto& [index, caption] : filters) w.Ch_FF[index].setCaption(caption);
+  const char* const delays[] = {"720", "360", "180"};
+  for (int i = 0; i < 3; ++i) w.OptionRit[i].setCaption(delays[i]);
+  w.OptionRit[0].set(true);
+}
+
+}  // namespace
+
+void ApreBanco(Workbench& w) {
+  captionArrays(w);
+  fillStatisticsCaptions(w);
+  fill(w.ComboFix, withFirst("", numbers(1, kMostNumber)), 0);
+  NuovaConfigurazioneReset(w);
+  w.SSTab3.set(0);
+  CambiaTabPrevisioni(w);
+  w.button("Command3").press();
+  hideWorkingColumns(w);
+  fillLists(w);
+  w.Colpi = w.ComboColpi.number();
+  w.FgF.setChoices(20, {"", "1", "2", "3", "4", "5"});
+  fillSelectionGrids(w);
+  RicavaRuoteGioco(w);
+  w.hs1.setMaximum(w.archive.UltimaEstrazione());
+  w.hs1.set(w.archive.UltimaEstrazione());
+  CambiaEstrazioneRiferimento(w);  // an archive of one draw moves no scroll bar
+  w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento));
+  w.button("Cmd_Elenco").press();
+}
+
+void RicavaRuoteGioco(Workbench& w) {
+  w.RuoteGioco = 0;
+  for (int wheel = 0; wheel < kWheels; ++wheel)
+    if (w.FgRG.back(0, wheel) == Verde) w.RuoteGioco |= 1U << wheel;
+}
+
+void CambiaEstrazioneRiferimento(Workbench& w) {
+  if (w.hs1.maximum() != w.archive.UltimaEstrazione()) w.hs1.setMaximum(w.archive.UltimaEstrazione());
+  const int draw = w.hs1.value();
+  w.EstrazioneRiferimento = draw;
+  w.LabelRifE.setText(std::to_string(draw) + " " + w.archive.DateEstrazioni(draw) + "  M-" +
+                      std::to_string(w.archive.ProgMese(draw)));
+}
+
+void CambiaTabPrevisioni(Workbench& w) {
+  for (const auto& [index, button] : w.Cmd_LaSorte) button->setBack(Giallo);
+  constexpr std::pair<int, int> sorteOfTab[] = {{0, 1}, {1, 2}, {2, 3}, {4, 6}};
+  for (const auto& [tab, sorte] : sorteOfTab) {
+    if (tab != w.SSTab3.index()) continue;
+    for (const auto& [index, button] : w.Cmd_LaSorte) button->setEnabled(index == sorte);
+    w.Cmd_LaSorte[sorte].setBack(Verde);
+  }
+}
+
+void NuovaConfigurazioneReset(Workbench& w) {
+  for (Grid* grid : {&w.FgF.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid(), &w.Fg00.grid(), &w.FgZ0.grid(),
+                     &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
+                     &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})
+    grid->cutToHeading();
+  w.ComboFix.select(0);
+  w.Ch_analisi2ruote.set(false);
+  w.Label5.setText("");
+  w.FgSSS.clearTexts();
+  for (int row = 0; row < w.Fg_Stat.rows(); ++row) w.Fg_Stat.setText(row, 1, "");
+  for (int row = 0; row < w.Fg_Graf.rows(); ++row) {
+    w.Fg_Graf.setText(row, 1, "");
+    w.Fg_Graf.setText(row, 2, "");
+  }
+  w.Fg_Graf.clearBars();
+}
+
+void RiportaNumeri(Workbench& w) {
+  std::string text;
+  int k = 0;
+  for (int row = 0; row < w.FgNu.rows(); ++row) {
+    for (int column = 0; column < w.FgNu.columns(); ++column) {
+      ++k;
+      if (w.FgNu.back(row, column) == Ciano) {
+        if (!text.empty()) text += '-';
+        text += w.FgNu.text(row, column);
+      }
+      w.FgNu.setText(row, column, twoDigits(k));
+    }
+  }
+  w.TxtNumeri.set(text);
+  w.ComboFiltro.select(1);
+}
+
+void SelezionaPerProprieta(Workbench& w, const NumberTable& property) {
+  paintAll(w.FgNu, kWhite);
+  const Grid::Batch batch(w.FgNu);
+  for (int n = 1; n <= kMostNumber; ++n)
+    if (property[static_cast<std::size_t>(n)] == w.ComboValF.index()) w.FgNu.setBack((n - 1) / 10, (n - 1) % 10, Ciano);
+}
+
+void connectSelections(Workbench& w) {
+  w.hs1.onEvent([&w] { CambiaEstrazioneRiferimento(w); });
+  w.SSTab3.onEvent([&w] { CambiaTabPrevisioni(w); });
+  w.ComboSorte.onEvent([&w] { w.Sorte = w.ComboSorte.index() + 1; });
+  w.FgNu.onCellClick([&w](int row, int column) { toggle(w.FgNu, row, column, Ciano); });
+  w.FgRR.onCellClick([&w](int row, int column) { toggle(w.FgRR, row, column, Verde); });
+  w.FgRG.onCellClick([&w](int row, int column) {
+    toggle(w.FgRG, row, column, Verde);
+    RicavaRuoteGioco(w);
+  });
+  for (const auto& [position, label] : w.LblPN) {
+    label->onEvent([&w, &own = *label] {
+      own.setBack(own.back() == Verde ? kWhite : Verde);
+      for (const auto& [p, l] : w.LblPN) w.PosizioniScelte[static_cast<std::size_t>(p)] = l->back() == Verde;
+    });
+  }
+  w.Label17.onEvent([&w] {
+    paintAll(w.FgRG, Verde);
+    RicavaRuoteGioco(w);
+  });
+  w.Label18.onEvent([&w] {
+    paintAll(w.FgRG, kWhite);
+    RicavaRuoteGioco(w);
+  });
+  w.Label4.onEvent([&w] { paintAll(w.FgRR, Verde); });
+  w.Label19.onEvent([&w] { paintAll(w.FgRR, kWhite); });
+  // The wheels of play follow at the next detection only.
+  for (const auto& [index, label] : w.Label1) label->onEvent([&w] { paintAll(w.FgRG, kWhite); });
+  w.TxtNumeri.onDoubleClick([&w] { w.TxtNumeri.set(""); });
+  w.Txt_Denominazione.onDoubleClick([&w] { w.Txt_Denominazione.set(""); });
+
+  w.button("Command24").onEvent([&w] { SelezionaPerProprieta(w, TabDecina); });
+  w.button("Command25").onEvent([&w] { SelezionaPerProprieta(w, TabCadenza); });
+  w.button("Command26").onEvent([&w] { SelezionaPerProprieta(w, TabFigura); });
+  w.button("Command8").onEvent([&w] { paintAll(w.FgNu, kWhite); });
+  w.button("Command6").onEvent([&w] { RiportaNumeri(w); });
+  w.button("Command41").onEvent([&w] { NuovaConfigurazioneReset(w); });
+  w.button("Command14").onEvent([&w] { w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento)); });
+  w.button("Command70").onEvent([&w] {
+    w.setHelpContext(290);
+    w.shell().help(290);
+  });
+}
+
+}  // namespace trv5

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "cases/workbench.h"
+#include "core/numbers.h"
+
+namespace trv5 {
+
+/// Fills every list and grid of the workbench and sets its defaults, in the order in which they depend on each other.
+/// The operations of all layers must be connected before: the opening runs some of their buttons.
+void ApreBanco(Workbench& w);
+
+/// `RuoteGioco` = the green cells of `FgRG`.
+void RicavaRuoteGioco(Workbench& w);
+
+/// Change of `hs1`: the reference draw and the label beside it.
+void CambiaEstrazioneRiferimento(Workbench& w);
+
+/// Change of tab of `SSTab3`: enables the `Cmd_LaSorte` of the tab, if it has one.
+void CambiaTabPrevisioni(Workbench& w);
+
+/// "Nuova configurazione (Reset)": empties every result, leaves the selections as they are.
+void NuovaConfigurazioneReset(Workbench& w);
+
+/// "OK": `TxtNumeri` from the cyan cells of `FgNu`, and the kind "Numeri".
+void RiportaNumeri(Workbench& w);
+
+/// "DEC", "CAD", "FIG": selects in `FgNu` the numbers whose `property` is the chosen value of `ComboValF`.
+void SelezionaPerProprieta(Workbench& w, const NumberTable& property);
+
+/// Wires these operations to the controls of the workbench.
+void connectSelections(Workbench& w);
+
+}  // namespace trv5

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/wheels.h"
+
+namespace trv5 {
+
+inline constexpr int kMostCases = 50;  ///< rows that the case list keeps
+inline constexpr int kMostNumber = 90;
+
+using NumberFlags = std::array<bool, 91>;   ///< by number 1..90; index 0 stands for a wheel not drawn
+using PositionFlags = std::array<bool, 6>;  ///< by position 1..5; index 0 is unused
+using CaseFlags = std::array<bool, 51>;     ///< by row of `FgEv`, 1..50
+
+/// The working record of one evaluation of a formula. One record serves the whole workbench: a field that an evaluation
+/// doesn't assign keeps the value of the evaluation before, and users' saved methods rely on it.
+struct ParametriFormula {
+  int Estr = 0;        ///< draw index of the case
+  int R1 = 0, P1 = 0;  ///< wheel 0..10 and position 1..5 of each element
+  int R2 = 0, P2 = 0;
+  int R3 = 0, P3 = 0;
+  int Fix = 0;             ///< 0 = no fix
+  std::string Operazione;  ///< operator literal
+  std::string Alteraz;     ///< alteration literal
+  int Nr = 0, Qn = 0;      ///< number of wheels (0 = pure number), numbers taken per wheel
+  int NumeroOttenuto = 0;  ///< the result; also the carried value when nothing assigns it
+  int Elem1 = 0, Elem2 = 0, Elem3 = 0;
+  int N1 = 0, N2 = 0, N3 = 0;  ///< the elements after the zero rule
+};
+
+/// Triples of positions p1 <= p2 <= p3, by [p1][p2][p3].
+using TripleFlags = std::array<std::array<std::array<bool, 6>, 6>, 6>;
+
+/// What the workbench remembers beside its controls. Operations set these fields from the controls when they run, and
+/// later operations read them as they stand: much of it is stale on purpose.
+struct WorkbenchState {
+  // Set by the detection of the cases.
+  std::string TipoRilevazione;
+  int RuotaRilevazione = 0;  ///< wheel 0..10
+  WheelSet RuoteRilevazione = 0;
+  WheelSet RuoteGioco = 0;  ///< the wheels of play; rebuilt from `FgRG` at few, fixed moments
+  PositionFlags PosizioniScelte{};
+  PositionFlags PosizioniColpite{};  ///< of the draw examined last; "Ciclo" paints with what it finds here
+  NumberFlags NumeriScelti{};
+  std::array<bool, 10> DecineScelte{}, CadenzeScelte{}, FigureScelte{};
+  std::string TestoNumeri;
+  int Elenco = 0;  ///< rows that a ranking keeps
+  int Retro = 0;
+  int QNR1 = 1, QNR2 = 1;
+  /// Draws after a case that count. One field for all: the detection and the searches that read `ComboColpi` set it,
+  /// verifications take it as it stands.
+  int Colpi = 10;
+  int ValoreMensile = 0;
+  int QuantiNumeri = 1;
+  int MaxCasi = 10;
+  int NumeroCasi = 0;             ///< cases found by the last detection, before the cut to 50
+  int EstrazioneRiferimento = 0;  ///< the reference draw: value of `hs1`
+
+  // Formulas and searches.
+  ParametriFormula Formula;
+  NumberFlags FixAmmessi{};  ///< fix values that a search may use; index 0 is never set
+  TripleFlags TerzineAmmesse{};
+  /// The sorte 1..5 that searches, single-row verification and lunghetta work for; outlives the call that set it, and
+  /// `Cmd_Elabora100` leaves it at 1.
+  int Sorte = 1;
+  /// Operator literal of the last companion search that knew its operator; others leave it and write it all the same.
+  std::string OperazioneCorrente;
+
+  // Verification.
+  int TipoVerifica = 0;                ///< 1 ambate, 2 ambi, 3 terni, 6 lunghetta
+  std::array<int, 6> EsitiPerSorte{};  ///< hits by quantity of numbers 1..5
+  int CasiInCorso = 0;                 ///< cases with fewer than `Colpi` draws after them
+  /// Numbers in play by [case + offset of the kind][number]: ambate 0, ambi 50, terni 100, lunghette 250.
+  std::vector<NumberFlags> NumeriInGioco = std::vector<NumberFlags>(301);
+  CaseFlags CasiEsclusi{};               ///< cases that the verifications behind CC skip
+  CaseFlags CasiVerificati{};            ///< cases that the last verification behind CC hit
+  CaseFlags CasiCoperti{}, CasiQuasi{};  ///< lunghetta: covered cases, and those one number short of the sorte
+};
+
+}  // namespace trv5
