@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds TRV5, makes its data at the first use and opens it. With --build it stops after the
+# build. Without a display it runs a whole method on the demonstration archive and prints what the user would read.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+. packaging/setup.sh
+
+case "${1-}" in
+  "" | --build) ;;
+  *) stop "Uso: ./run.sh [--build]" ;;
+esac
+
+ensure_packages "${packages[@]}"
+configure release
+cmake --build --preset release --target trv5 trv5-console trv5-data trv5-report
+[ "${1-}" != --build ] || exit 0
+
+bin=$PWD/build/release/bin
+archive="$bin/Archivio dimostrativo (simulato).mdb"
+[ -e "$archive" ] || "$bin/trv5-data" demo "$archive"
+[ -e "$bin/DbTRV5.mdb" ] || "$bin/trv5-data" modello "$bin/DbTRV5.mdb" --archivio "$archive"
+
+if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
+  exec "$bin/trv5"
+fi
+
+echo
+echo "Nessun display: eseguo un metodo intero sull'archivio dimostrativo, senza finestre."
+# A folder of its own, so that the user's own database plays no part.
+demo=$PWD/build/release/dimostrazione
+rm -rf "$demo"
+mkdir -p "$demo/immagini"
+"$bin/trv5-data" modello "$demo/DbTRV5.mdb" --archivio "$archive"
+script=$PWD/packaging/metodo.txt
+cd "$demo"
+"$bin/trv5-console" <"$script" >risposte.jsonl || true # the report names the line that failed
+"$bin/trv5-report" "$script" risposte.jsonl
+echo
+echo "Immagini delle finestre: $demo/immagini"
