@@ -1,0 +1,142 @@
+#include "cases/case_search.h"
+
+#include <string>
+
+#include "cases/detection.h"
+#include "cases/selections.h"
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace trv5 {
+namespace {
+
+constexpr int kTabSelections = 1, kTabCases = 0;
+
+void readSelections(Workbench& w) {
+  w.RuoteRilevazione = 0;
+  for (int wheel = 0; wheel < kWheels; ++wheel)
+    if (w.FgRR.back(0, wheel) == Verde) w.RuoteRilevazione |= 1U << wheel;
+  w.RuotaRilevazione = w.ComboR1.index();
+  w.Elenco = w.ComboEle.number();
+  w.Retro = w.ComboRetro.index();
+  RicavaRuoteGioco(w);
+  for (const auto& [position, label] : w.LblPN)
+    w.PosizioniScelte[static_cast<std::size_t>(position)] = label->back() == Verde;
+  w.QNR1 = w.ComboQNR1.number();
+  w.QNR2 = w.ComboQNR2.number();
+  w.TipoRilevazione = w.ComboFiltro.text();
+}
+
+// False when the run stops for want of a usable value.
+bool valuesAreUsable(Workbench& w, Kind kind) {
+  const std::string& text = w.TxtNumeri.text();
+  const bool needsValue = kind != Kind::NumPari && kind != Kind::Ciclo && kind != Kind::Mensile;
+  if (needsValue && text.empty()) {
+    w.shell().message({.text = "Attenzione: Selezionare almeno un valore"});
+    w.SSTab1.set(kTabSelections);
+    return false;
+  }
+  const bool oneValue = kind == Kind::Differenza || kind == Kind::Distanza || kind == Kind::Somma;
+  if (oneValue && text.size() >= 3) {
+    w.shell().message({.text = "Attenzione: per Distanza, Differenza e Somma, selezionare un solo valore"});
+    w.TxtNumeri.set("");
+    w.SSTab1.set(kTabSelections);
+    return false;
+  }
+  return true;
+}
+
+void readNumbers(Workbench& w) {
+  w.NumeriScelti = {};
+  w.TestoNumeri = w.TxtNumeri.text();
+  for (int n : numbersEveryThree(w.TestoNumeri)) {
+    if (n < 1 || n > kMostNumber) continue;
+    const auto at = static_cast<std::size_t>(n);
+    w.NumeriScelti[at] = true;
+    w.DecineScelte[static_cast<std::size_t>(TabDecina[at])] = true;
+    w.CadenzeScelte[static_cast<std::size_t>(TabCadenza[at])] = true;
+    w.FigureScelte[static_cast<std::size_t>(TabFigura[at])] = true;
+  }
+}
+
+Situation situationOf(const Workbench& w, Kind kind) {
+  return {.kind = kind,
+          .reference = w.EstrazioneRiferimento,
+          .maxCases = w.MaxCasi,
+          .wheel = w.RuotaRilevazione,
+          .wheels = w.RuoteRilevazione,
+          .positions = w.PosizioniScelte,
+          .numbers = w.NumeriScelti,
+          .quantity = w.QuantiNumeri,
+          .period = w.ValoreMensile,
+          .forceLast = w.Ch_ultima.checked(),
+          .twoElements = w.Ch_analisi2ruote.checked(),
+          .back = w.Retro,
+          .quantity1 = w.QNR1,
+          .quantity2 = w.QNR2,
+          .oneToOne = w.ChDDS.checked(),
+          .isotopes = w.Ch_ISO.checked()};
+}
+
+void writeElement(Workbench& w, int row, int column, const FoundElement& element) {
+  w.FgEv.setNumber(row, column, element.draw);
+  w.FgEv.setText(row, column + 1, w.archive.DateEstrazioni(element.draw));
+  w.FgEv.setText(row, column + 2, CodiciRuote[static_cast<std::size_t>(element.wheel)]);
+  w.FgEv.setBack(row, column + 2, Giallo);
+  w.FgEv.setBold(row, column + 2);
+  for (int p = 1; p <= kPositions; ++p) {
+    w.FgEv.setNumber(row, column + 2 + p, w.archive.NumeriEstratti(element.draw, element.wheel, p));
+    if (element.marks[static_cast<std::size_t>(p)]) w.FgEv.setBack(row, column + 2 + p, VerdeMedio);
+  }
+}
+
+void writeCases(Workbench& w, const std::vector<FoundCase>& cases) {
+  for (const FoundCase& found : cases) {
+    const int row = w.FgEv.appendRow();
+    w.FgEv.setNumber(row, case_column::kProg, row);
+    writeElement(w, row, case_column::kDraw, found.first);
+    if (found.second) writeElement(w, row, case_column::kDraw2, *found.second);
+  }
+}
+
+}  // namespace
+
+void RicavaElencoEstrazioni(Workbench& w) {
+  readSelections(w);
+  const Kind kind = kindOf(w.TipoRilevazione).value_or(Kind::Mensile);
+  if (!valuesAreUsable(w, kind)) return;
+  w.Colpi = w.ComboColpi.number();
+  w.ValoreMensile = w.ComboPar.index();
+  w.MaxCasi = w.ComboNC.number();
+  w.DecineScelte = w.CadenzeScelte = w.FigureScelte = {};
+  if (kind != Kind::Mensile) readNumbers(w);
+  if (kind == Kind::Ciclo && w.ValoreMensile < 5)
+    w.shell().message({.text =
+                           "Quanso è selezionata la rilevazione per ciclo la dursta non può essere inferiore a 5. Va "
+                           "impostata dalla lista Mensile"});
+  w.QuantiNumeri = w.ComboQNu.number();
+
+  const Grid::Batch batch(w.FgEv);
+  w.FgEv.cutToHeading();
+  w.NumeroCasi = 0;
+  if (w.Ch_analisi2ruote.checked() && kind == Kind::Distanza && numberOf(w.TxtNumeri.text()) > 45) {
+    w.shell().message({.text = "Selezionare un valore compreso tra 1 e 45"});
+    return;
+  }
+  const std::vector<FoundCase> cases = detectCases(w.archive, situationOf(w, kind), w.PosizioniColpite);
+  w.NumeroCasi = static_cast<int>(cases.size());
+  writeCases(w, cases);
+  w.SSTab1.set(kTabCases);
+  if (w.FgEv.dataRows() > kMostCases) {
+    w.shell().message({.text = "Non sono consentite più di 50 casistiche... quelle eccedenti saranno rimosse.",
+                       .icon = Icon::Critical});
+    w.FgEv.setRows(kMostCases + w.FgEv.headingRows());
+  }
+  if (w.FgEv.hasData()) w.Label5.setText(std::to_string(caseDraw(w, 1) - caseDraw(w, w.FgEv.rows() - 1)));
+  w.FgEv.setEmptyText("Nessun caso per questa situazione: cambia il valore o le posizioni");
+  w.FgF.setEmptyText(w.FgEv.hasData() ? "Nessuna ricerca: premi 1N 1R, 2N 1R, 3N 1R o 2N 2R"
+                                      : "Prima ricava l'elenco delle estrazioni");
+  w.shell().status("Elenco estrazioni: " + std::to_string(w.FgEv.dataRows()) + " casi");
+}
+
+}  // namespace trv5
