@@ -1,0 +1,40 @@
+#pragma once
+
+#include <vector>
+
+#include "core/controls.h"
+#include "core/program.h"
+
+namespace trv5 {
+
+/// The shell: the window inside which all other screens open, with the state of the archive and its list.
+class Container : public Form {
+ public:
+  static constexpr int kHelpContext = 220;
+
+  explicit Container(Program& program);
+  ~Container() override;
+
+  /// Run once when the screen is made.
+  void load();
+
+  /// The status block, from the model archive.
+  void ImpostazioniArchivioModello();
+  /// Refills `FG5` from the archive in memory.
+  void CaricaFG5();
+
+  Button Command4, Command1, Command5, Command6, Command2, Command3, Command7, Command33, Command45;
+  // Headings of the three columns and captions of the rows of the status block.
+  Label LblTitoloInizio, LblTitoloFine, LblTitoloNE;
+  Label LblDataInizio, LblDataFine, LblIndiceInizio, LblIndiceFine, LblModello;
+  Label LblInizio, LblFine, Lbl_inizioNE, Lbl_fineNE, Lbl_Ev;
+  Progress Pb1;
+  GridControl FG5;
+
+ private:
+  void opens(Button& button, std::string screen);
+
+  Program& m_program;
+};
+
+}  // namespace trv5

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/archive.h"
+#include "core/database.h"
+#include "core/file_writer.h"
+
+namespace trv5 {
+
+/// A row of `ParametriProgramma`.
+struct ParameterRow {
+  std::string Parametro, Valore1 = {}, Valore2 = {};
+};
+
+/// A ready-made betting system: rows of numbers 1..90 over an abstract set of numbers.
+struct OrthogonalSystem {
+  std::string Denominazione;
+  int sviluppo = 0;  ///< how many numbers a row holds
+  int Numeri = 0;    ///< how many numbers the system uses; the order of the list
+  std::vector<std::vector<int>> rows;
+};
+
+/// What the shipped main database is filled with.
+struct MainContents {
+  std::vector<ParameterRow> parameters;
+  std::vector<OrthogonalSystem> systems;
+};
+
+// The files appear complete or not at all. An empty password makes a file that opens with any. Failures throw UserError
+// and name the file.
+
+void createMainDatabase(const std::filesystem::path& file, const MainContents& contents, Existing existing,
+                        std::string_view password = programPassword());
+/// An archive of these draws, in any order; "" stands for a wheel without numbers and becomes NULL.
+void createArchive(const std::filesystem::path& file, const std::vector<DrawRow>& rows, Existing existing,
+                   std::string_view password = programPassword());
+void createExportFile(const std::filesystem::path& file, Existing existing,
+                      std::string_view password = programPassword());
+
+}  // namespace trv5

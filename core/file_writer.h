@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace trv5 {
+
+/// What happens to a file that stands where a new one is to appear.
+enum class Existing { Refuse, Replace };
+
+/// A file on its way: a temporary file beside the target, in the same folder and so on the same disk. It becomes the
+/// target as a whole at commit(), after everything has been written and synced; without it the temporary file vanishes
+/// and the target stays as it was. All failures throw UserError and name the target.
+class PendingFile {
+ public:
+  explicit PendingFile(std::filesystem::path target);
+  ~PendingFile();
+  PendingFile(const PendingFile&) = delete;
+  PendingFile& operator=(const PendingFile&) = delete;
+
+  /// Where the contents go until commit(), for writers that want a path of their own (a database).
+  const std::filesystem::path& path() const { return m_path; }
+  void write(std::string_view bytes);
+  /// Syncs the contents and gives the file its name. Throws UserError when the target exists and `existing` refuses.
+  void commit(Existing existing);
+
+ private:
+  [[noreturn]] void fail(int error) const;
+
+  std::filesystem::path m_target, m_path;
+  int m_descriptor = -1;
+};
+
+/// Writes a whole file, whole or not at all. Every file that the program writes goes through here or through
+/// PendingFile, databases in use excepted.
+void writeFile(const std::filesystem::path& target, std::string_view bytes, Existing existing = Existing::Replace);
+
+/// The contents of a file; throws UserError naming it when it can't be read.
+std::string readFile(const std::filesystem::path& file);
+
+/// The reason behind an errno value, in Italian.
+std::string reasonOf(int error);
+
+}  // namespace trv5
