@@ -1,0 +1,131 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QString>
+
+#include "core/palette.h"
+
+class QApplication;
+
+namespace trv5 {
+
+/// The colours of everything around the grids; each pair of text and ground stands out by 4.5:1 at least.
+struct ChromeColours {
+  Rgb window;       ///< behind the panels, bars
+  Rgb panel;        ///< panels, tab pages
+  Rgb field;        ///< lists, text boxes
+  Rgb button;       ///< secondary buttons
+  Rgb voidArea;     ///< the part of a grid below its last row; empty work area
+  Rgb rail;         ///< the shell's panel
+  Rgb line;         ///< panel borders, separators
+  Rgb edge;         ///< borders of controls and grids
+  Rgb text;         ///< what is read first
+  Rgb text2;        ///< labels, hints, messages in grids
+  Rgb disabled;     ///< disabled text only
+  Rgb accent;       ///< primary button, current tab, focus ring, current screen, progress
+  Rgb onAccent;     ///< text on accent
+  Rgb heading;      ///< headings of grids
+  Rgb headingText;  ///< text of headings
+  Rgb danger;       ///< text of deleting buttons only
+};
+
+/// The accent is never one of the data colours (green, cyan, yellow, orange, pink, lilac): those mean something.
+inline constexpr ChromeColours kLightColours = {.window = 0xE8EBEE,
+                                                .panel = 0xF5F6F8,
+                                                .field = 0xFFFFFF,
+                                                .button = 0xFFFFFF,
+                                                .voidArea = 0xDDE1E6,
+                                                .rail = 0xDCE1E6,
+                                                .line = 0xC6CCD3,
+                                                .edge = 0x7F8A95,
+                                                .text = 0x1D232A,
+                                                .text2 = 0x4C5763,
+                                                .disabled = 0x8A939D,
+                                                .accent = 0x2B506E,
+                                                .onAccent = 0xFFFFFF,
+                                                .heading = 0xE3E7EB,
+                                                .headingText = 0x2B333B,
+                                                .danger = 0x9B1C1C};
+inline constexpr ChromeColours kDarkColours = {.window = 0x22272C,
+                                               .panel = 0x2B3137,
+                                               .field = 0x1C2024,
+                                               .button = 0x363D44,
+                                               .voidArea = 0x353C43,
+                                               .rail = 0x1D2226,
+                                               .line = 0x464E57,
+                                               .edge = 0x7D8894,
+                                               .text = 0xE7EAED,
+                                               .text2 = 0xB3BCC5,
+                                               .disabled = 0x7D8791,
+                                               .accent = 0x9CC3E0,
+                                               .onAccent = 0x12202B,
+                                               .heading = 0x3B434B,
+                                               .headingText = 0xE1E6EA,
+                                               .danger = 0xF0A3A3};
+
+inline QColor toColor(Rgb colour) {
+  return QColor::fromRgb(static_cast<QRgb>(colour | 0xFF000000U));
+}
+inline QString qs(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+/// Gives the program its looks: Fusion, the palette, the type scale and one style sheet. Made once, in main, before the
+/// first widget; widgets ask it for colours and sizes and follow `changed`.
+class Theme : public QObject {
+  Q_OBJECT
+ public:
+  enum class Density { Comfortable, Compact };
+
+  explicit Theme(QApplication& app);
+  ~Theme() override;
+  /// The one of the running program.
+  static const Theme& current();
+  static Theme& edit();
+
+  const ChromeColours& colours() const { return m_dark ? kDarkColours : kLightColours; }
+  bool dark() const { return m_dark; }
+  Density density() const { return m_density; }
+  void setDark(bool dark);
+  /// Windows under 900 pixels of height are laid out compactly.
+  void setWindowHeight(int height);
+  /// Size of the base font in points, 9.5 to 16; 0 for the size that the density tells.
+  void setBasePoints(double points);
+  /// What the user chose, 0 where nothing.
+  double chosenPoints() const { return m_points; }
+  double basePoints() const;
+  double smallPoints() const;
+  double largePoints() const { return basePoints() * 1.35; }
+  void stepBase(double points) { setBasePoints(basePoints() + points); }
+
+  QFont base() const;
+  QFont small(bool strong = false) const;
+  QFont title() const;
+  QFont large() const;
+
+  int row() const;      ///< height of a grid's row
+  int heading() const;  ///< height of a grid's heading
+  int control() const;  ///< height of buttons, lists and text boxes
+  int unit() const;     ///< gap between controls and between panels
+  int panelPadding() const { return unit() + 2; }
+
+  /// The style sheet for these colours and sizes.
+  QString styleSheet() const;
+
+ Q_SIGNALS:
+  /// Colours or sizes are others.
+  void changed();
+
+ private:
+  int lineHeight() const;
+  void apply();
+
+  QApplication& m_app;
+  bool m_dark = false;
+  Density m_density = Density::Comfortable;
+  double m_points = 0;
+};
+
+}  // namespace trv5
