@@ -1,0 +1,261 @@
+#include "core/database.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+#include <fmt/format.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "core/database_marks.h"
+#include "core/password.h"
+
+namespace trv5 {
+namespace {
+
+namespace fs = std::filesystem;
+using Reason = DatabaseError::Reason;
+
+constexpr int kBusyTimeoutMs = 2000;
+
+Reason reasonOfCode(int code, bool readOnly) {
+  switch (code & 0xFF) {
+    case SQLITE_NOTADB:
+      return Reason::NotADatabase;
+    case SQLITE_CORRUPT:
+      return Reason::Damaged;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return Reason::Locked;
+    case SQLITE_READONLY:
+      return Reason::ReadOnly;
+    case SQLITE_CANTOPEN:  // of the journal, in a folder that takes no new files
+      return readOnly ? Reason::ReadOnly : Reason::Other;
+    case SQLITE_FULL:
+      return Reason::DiskFull;
+    case SQLITE_CONSTRAINT:
+    case SQLITE_MISMATCH:
+      return Reason::Constraint;
+    default:
+      return Reason::Other;
+  }
+}
+
+std::string reasonText(Reason reason, const char* detail) {
+  switch (reason) {
+    case Reason::Missing:
+      return "il file non esiste";
+    case Reason::NotADatabase:
+      return "non è un file di dati di TRV5";
+    case Reason::OtherProgram:
+      return "è un file di un altro programma o di un altro genere";
+    case Reason::NewerVersion:
+      return "è stato scritto da una versione più recente di TRV5";
+    case Reason::OtherPassword:
+      return "la password è un'altra";
+    case Reason::Damaged:
+      return "il file è danneggiato o troncato";
+    case Reason::Locked:
+      return "il file è occupato da un altro programma";
+    case Reason::ReadOnly:
+      return "il file è in sola lettura";
+    case Reason::DiskFull:
+      return "il disco è pieno";
+    case Reason::Constraint:
+      return fmt::format("un dato non è ammesso o esiste già ({})", detail);
+    case Reason::Other:
+      return detail;
+  }
+  return detail;
+}
+
+DatabaseError errorOf(std::string_view attempt, const fs::path& file, Reason reason, const char* detail = "") {
+  return {reason,
+          fmt::format("Il file \"{}\" non può essere {}: {}.", file.string(), attempt, reasonText(reason, detail))};
+}
+
+}  // namespace
+
+Statement::Statement(const Database& database, const std::string& sql) : m_database(&database) {
+  try {
+    m_statement = std::make_unique<SQLite::Statement>(*database.m_database, sql);
+  } catch (const SQLite::Exception&) {
+    database.fail("letto");
+  }
+}
+
+Statement::Statement(Statement&&) noexcept = default;
+Statement::~Statement() = default;
+
+Statement& Statement::bind(int parameter, std::int64_t value) {
+  m_statement->bind(parameter, value);
+  return *this;
+}
+
+Statement& Statement::bind(int parameter, std::string_view text) {
+  m_statement->bind(parameter, std::string(text));
+  return *this;
+}
+
+Statement& Statement::bindNull(int parameter) {
+  m_statement->bind(parameter);
+  return *this;
+}
+
+Statement& Statement::bindOrNull(int parameter, std::string_view text) {
+  return text.empty() ? bindNull(parameter) : bind(parameter, text);
+}
+
+bool Statement::step() {
+  try {
+    return m_statement->executeStep();
+  } catch (const SQLite::Exception&) {
+    m_database->fail("letto");
+  }
+}
+
+int Statement::run() {
+  try {
+    const int changed = m_statement->exec();
+    m_statement->reset();
+    return changed;
+  } catch (const SQLite::Exception&) {
+    m_statement->tryReset();
+    m_database->fail("scritto");
+  }
+}
+
+void Statement::reset() {
+  m_statement->reset();
+}
+
+int Statement::columns() const {
+  return m_statement->getColumnCount();
+}
+
+std::string Statement::columnName(int column) const {
+  return m_statement->getColumnName(column);
+}
+
+bool Statement::isNull(int column) const {
+  return m_statement->getColumn(column).isNull();
+}
+
+std::int64_t Statement::number(int column) const {
+  return m_statement->getColumn(column).getInt64();
+}
+
+std::string_view Statement::view(int column) const {
+  const SQLite::Column value = m_statement->getColumn(column);
+  const char* const text = value.getText();  // before getBytes, which counts the bytes of the text form
+  return {text, static_cast<std::size_t>(value.getBytes())};
+}
+
+Database::Database(const fs::path& file, FileKind kind, std::string_view password) {
+  struct stat status {};
+  if (!file.empty()) m_path = fs::absolute(file);
+  if (file.empty() || stat(m_path.c_str(), &status) != 0) throw errorOf("aperto", m_path, Reason::Missing);
+  if (!S_ISREG(status.st_mode)) throw errorOf("aperto", m_path, Reason::NotADatabase);
+  m_device = status.st_dev;
+  m_inode = status.st_ino;
+  try {
+    open(kind, password);
+  } catch (const SQLite::Exception&) {
+    fail("aperto");
+  }
+}
+
+Database::~Database() = default;
+
+void Database::open(FileKind kind, std::string_view password) {
+  if (access(m_path.c_str(), R_OK) != 0)
+    throw errorOf("aperto", m_path, Reason::Other, "il permesso di lettura è negato");
+  // SQLite itself falls back to reading where the file can't be written.
+  m_database = std::make_unique<SQLite::Database>(m_path.string(), SQLite::OPEN_READWRITE, kBusyTimeoutMs);
+  sqlite3* const handle = m_database->getHandle();
+  m_readOnly = sqlite3_db_readonly(handle, "main") == 1 || access(m_path.parent_path().c_str(), W_OK) != 0;
+
+  // Before anything of the file's own schema is looked at.
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  m_database->exec("PRAGMA trusted_schema = OFF; PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
+  if (m_database->execAndGet("PRAGMA application_id").getInt() != applicationId(kind))
+    throw errorOf("aperto", m_path, Reason::OtherProgram);
+  if (m_database->execAndGet("PRAGMA user_version").getInt() > kSchemaVersion)
+    throw errorOf("aperto", m_path, Reason::NewerVersion);
+  checkPassword(password);
+  configure();
+}
+
+void Database::checkPassword(std::string_view password) const {
+  if (!hasTable("Protezione")) return;
+  Statement hash = prepare("SELECT Impronta FROM Protezione");
+  if (!hash.step() || !passwordMatches(hash.text(0), password)) throw errorOf("aperto", m_path, Reason::OtherPassword);
+}
+
+void Database::configure() {
+  m_database->exec("PRAGMA foreign_keys = ON; PRAGMA synchronous = EXTRA");
+  if (!m_readOnly) m_database->exec("PRAGMA journal_mode = DELETE");
+}
+
+bool Database::stillInPlace() const {
+  struct stat status {};
+  return stat(m_path.c_str(), &status) == 0 && status.st_dev == m_device && status.st_ino == m_inode;
+}
+
+Statement Database::prepare(const std::string& sql) const {
+  return Statement(*this, sql);
+}
+
+void Database::execute(const std::string& sql) {
+  try {
+    m_database->exec(sql);
+  } catch (const SQLite::Exception&) {
+    fail("scritto");
+  }
+}
+
+std::int64_t Database::lastInsertedKey() const {
+  return m_database->getLastInsertRowid();
+}
+
+bool Database::hasTable(std::string_view table) const {
+  Statement find = prepare("SELECT 1 FROM sqlite_schema WHERE type IN ('table', 'view') AND name = ? COLLATE NOCASE");
+  return find.bind(1, table).step();
+}
+
+bool Database::hasField(std::string_view table, std::string_view field) const {
+  Statement find = prepare("SELECT 1 FROM pragma_table_info(?) WHERE name = ? COLLATE NOCASE");
+  return find.bind(1, table).bind(2, field).step();
+}
+
+void Database::fail(std::string_view attempt) const {
+  try {
+    throw;
+  } catch (const SQLite::Exception& error) {
+    throw errorOf(attempt, m_path, reasonOfCode(error.getErrorCode(), m_readOnly), error.what());
+  }
+}
+
+Database::Transaction::Transaction(Database& database) : m_database(database) {
+  if (database.readOnly()) throw errorOf("scritto", database.path(), Reason::ReadOnly);
+  database.execute("BEGIN IMMEDIATE");
+}
+
+Database::Transaction::~Transaction() {
+  if (!m_open) return;
+  try {
+    // After some failures (a full disk) the library has rolled back by itself.
+    if (sqlite3_get_autocommit(m_database.m_database->getHandle()) == 0) m_database.m_database->exec("ROLLBACK");
+  } catch (const SQLite::Exception&) {
+    // Nothing was committed, so the journal is rolled back when the file is opened next.
+    m_open = false;
+  }
+}
+
+void Database::Transaction::commit() {
+  m_database.execute("COMMIT");
+  m_open = false;
+}
+
+}  // namespace trv5
