@@ -1,0 +1,24 @@
+#include "data/shipped_contents.h"
+
+#include "data/orthogonal_systems.h"
+
+namespace trv5 {
+
+MainContents shippedContents(const std::string& archive) {
+  return {
+      {
+          {"PercorsoArchivio", archive},
+          {"Ruote", "01234567890"},
+          {"RuotaPrincipale", "0"},
+          {"EstrazioneIniziale", "1"},
+          {"IndirizzoInternet", "https://example.org/estrazioni"},
+          {"PercorsoDati.iii"},
+          {"PercorsoRuotafast", "/BRNT3"},
+          {"HostWebAggiornamento", "https://example.org"},
+          {"HostFtpAggiornamento", "ftp://example.org"},
+      },
+      shippedSystems(),
+  };
+}
+
+}  // namespace trv5
