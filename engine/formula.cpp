@@ -18,17 +18,23 @@ ElementTable tableOf(const NumberTable& property) {
 
 }  // namespace
 
+const ElementTable* findElementTable(std::string_view alteration) {
+  static const std::array<ElementTable, kAlterations.size()> tables = {tableOf([](int n) { return n; }),
+                                                                       tableOf([](int n) { return 91 - n; }),
+                                                                       tableOf(TabCadenza),
+                                                                       tableOf(TabDecina),
+                                                                       tableOf(TabDiametrale),
+                                                                       tableOf(TabDiametraleDecina),
+                                                                       tableOf([](int n) { return n / 10 * (n % 10); }),
+                                                                       tableOf(TabFigura),
+                                                                       tableOf(TabVertibile)};
+  const auto it = std::find(kAlterations.begin(), kAlterations.end(), alteration);
+  return it == kAlterations.end() ? nullptr : &tables[static_cast<std::size_t>(it - kAlterations.begin())];
+}
+
 std::optional<ElementTable> elementTable(std::string_view alteration) {
-  if (alteration.empty()) return tableOf([](int n) { return n; });
-  if (alteration == "C91") return tableOf([](int n) { return 91 - n; });
-  if (alteration == "CAD") return tableOf(TabCadenza);
-  if (alteration == "DEC") return tableOf(TabDecina);
-  if (alteration == "DIAM") return tableOf(TabDiametrale);
-  if (alteration == "DIDE") return tableOf(TabDiametraleDecina);
-  if (alteration == "D x U") return tableOf([](int n) { return n / 10 * (n % 10); });
-  if (alteration == "FIG") return tableOf(TabFigura);
-  if (alteration == "VERT") return tableOf(TabVertibile);
-  return std::nullopt;
+  const ElementTable* const table = findElementTable(alteration);
+  return table == nullptr ? std::nullopt : std::optional<ElementTable>(*table);
 }
 
 ElementTable constantTable(int element) {

@@ -17,7 +17,10 @@ using ElementTable = std::array<std::uint8_t, 91>;
 inline constexpr std::array<std::string_view, 9> kAlterations = {"",     "C91",   "CAD", "DEC", "DIAM",
                                                                  "DIDE", "D x U", "FIG", "VERT"};
 
-/// The table of an alteration literal; nothing for a text that is none.
+/// The table of an alteration literal, made once for the whole run; null for a text that is none.
+const ElementTable* findElementTable(std::string_view alteration);
+
+/// A copy of that table; nothing for a text that is none.
 std::optional<ElementTable> elementTable(std::string_view alteration);
 
 /// A table that gives `element` whatever was drawn.

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cases/workbench.h"
+
+namespace trv5 {
+
+/// Colours a formula table: elements, counters, fix.
+void coloraFormule(Grid& formulas);
+
+/// "Colora grid": colours `FgF`, its counters in their own shade.
+void ColoraFgF(Workbench& w);
+
+/// Colours `Fg00` and numbers its rows from 1.
+void Colora_fg00(Workbench& w);
+
+/// Numbers the rows of `Fg00` from 1.
+void numeraFg00(Workbench& w);
+
+/// Colours a hit grid and merges the equal neighbours of its column 1.
+void coloraEsiti(Grid& hits);
+
+}  // namespace trv5
