@@ -1,10 +1,11 @@
+# shellcheck shell=bash disable=SC2034
 # Sourced by run.sh and test.sh, from the project's own folder: installs the Debian packages that are missing, sets up
 # the compiler cache, configures a preset.
 
 # Debian 12. What the programs need to be built and run; the fonts are those that the screens are designed for.
 packages=(build-essential cmake ninja-build ccache pkg-config git cmark
   qt6-base-dev qt6-svg-dev qt6-wayland fonts-noto-core
-  libsqlitecpp-dev libsqlite3-dev libfmt-dev libsodium-dev libarchive-dev libxlsxwriter-dev nlohmann-json3-dev
+  libsqlitecpp-dev libsqlite3-dev libfmt-dev libsodium-dev libarchive-dev zlib1g-dev libxlsxwriter-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev)
 
 # Objects compiled in one checkout serve the next one too.
