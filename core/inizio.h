@@ -25,7 +25,8 @@ class Inizio : public Form {
  private:
   void openArchive();
   void ImpostaInizialix();
-  void SelezionaArchivio();
+  /// False when the dialog was cancelled. Throws UserError when the choice couldn't be stored; it serves this run then.
+  bool SelezionaArchivio();
   void Procedi();
 
   Program& m_program;

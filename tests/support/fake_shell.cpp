@@ -74,6 +74,11 @@ Form& FakeShell::show(std::string_view screen) {
   return *open->second;
 }
 
+void FakeShell::forgetScreens() {
+  m_open.clear();
+  m_closed.clear();
+}
+
 void FakeShell::close(std::string_view screen) {
   closedScreens.emplace_back(screen);
   const auto open = m_open.find(screen);

@@ -55,6 +55,8 @@ class FakeShell : public Shell {
     m_make[name] = std::move(make);
   }
   bool hasScreen(std::string_view name) const { return m_make.find(name) != m_make.end(); }
+  /// The run is over: all its screens go, what the user saw stays.
+  void forgetScreens();
   bool isOpen(std::string_view name) const { return m_open.find(name) != m_open.end(); }
 
   std::deque<Answer> answers;

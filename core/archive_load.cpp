@@ -1,0 +1,89 @@
+#include "core/archive_load.h"
+
+#include <stdexcept>
+
+#include "core/container.h"
+#include "core/database.h"
+#include "core/dates.h"
+#include "core/errors.h"
+#include "core/grid.h"
+#include "core/program.h"
+
+namespace trv5 {
+namespace {
+
+std::vector<DrawRow> readChosenArchive(const Program& program,
+                                       const std::function<void(int row, int rows)>& onRow = {}) {
+  return readDraws(Database(program.PercorsoDbArchivio, FileKind::Archive), onRow);
+}
+
+}  // namespace
+
+std::vector<DrawRow> readDraws(const Database& archive, const std::function<void(int row, int rows)>& onRow) {
+  Statement count = archive.prepare("SELECT count(*) FROM EstrazioniLotto");
+  count.step();
+  const int all = static_cast<int>(count.number(0));
+  if (all > Archive::kMaxDraws) throw UserError("L'archivio ha più di 9999 estrazioni.");
+  std::vector<DrawRow> rows;
+  rows.reserve(static_cast<std::size_t>(all));
+  Statement query = archive.prepare(
+      "SELECT EstrazioniLotto.DataEstrazione, EstrazioniLotto.Ba, EstrazioniLotto.Ca, EstrazioniLotto.Fi, "
+      "EstrazioniLotto.Ge, EstrazioniLotto.Mi, EstrazioniLotto.Na, EstrazioniLotto.Pa, EstrazioniLotto.Ro, "
+      "EstrazioniLotto.\"To\", EstrazioniLotto.Ve, EstrazioniLotto.Nz "
+      "FROM EstrazioniLotto ORDER BY EstrazioniLotto.DataEstrazione");
+  while (query.step()) {
+    DrawRow& row = rows.emplace_back();
+    row.date = dateTextOfIso(query.view(0));
+    for (int wheel = 0; wheel < kWheels; ++wheel) row.wheels[static_cast<std::size_t>(wheel)] = query.view(wheel + 1);
+    if (onRow) onRow(static_cast<int>(rows.size()), all);
+  }
+  return rows;
+}
+
+void fillFgDB(const std::vector<DrawRow>& rows, Grid& FgDB) {
+  const Grid::Batch batch(FgDB);
+  FgDB.setRows(FgDB.headingRows() + static_cast<int>(rows.size()));
+  int at = FgDB.headingRows();
+  for (const DrawRow& row : rows) {
+    FgDB.setText(at, 1, row.date);
+    for (int wheel = 0; wheel < kWheels; ++wheel)
+      FgDB.setText(at, wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
+    ++at;
+  }
+}
+
+std::vector<DrawRow> loadArchive(Program& program, const std::function<void(int row, int rows)>& onRow) {
+  std::vector<DrawRow> rows = readChosenArchive(program, onRow);
+  Archive archive;
+  archive.loadNumbers(rows);
+  archive.countProgressives();
+  archive.setModelFrom(program.EstrazioneIniziale);
+  program.archive = std::move(archive);
+  program.loadedArchive = program.PercorsoDbArchivio;
+  return rows;
+}
+
+std::vector<DrawRow> CaricaArchivioExNovo(Program& program) {
+  // The bar of the shell moves at every fiftieth row only.
+  std::vector<DrawRow> rows = readChosenArchive(program, [&](int row, int all) {
+    if (row % 50 == 0) program.shell.progress(row, all + 1);
+  });
+  program.archive.loadNumbers(rows);
+  program.archive.countProgressives();
+  program.archive.blankModel();
+  program.loadedArchive = program.PercorsoDbArchivio;
+  // The status block is written from the model archive while that is still blank: after a reload it reads an empty
+  // date, the indices 0 and 0 and the count 1 until the next start. Wanted.
+  if (program.container != nullptr) program.container->ImpostazioniArchivioModello();
+  program.archive.setWholeModel();
+  if (program.container != nullptr) program.container->CaricaFG5();
+  return rows;
+}
+
+void CaricaTabellaArchivio(Program& program, Grid& FgDB) {
+  const std::vector<DrawRow> rows = readChosenArchive(program);
+  program.archive.loadNumbers(rows);
+  fillFgDB(rows, FgDB);
+}
+
+}  // namespace trv5

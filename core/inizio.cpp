@@ -1,0 +1,129 @@
+#include "core/inizio.h"
+
+#include <fmt/format.h>
+
+#include <exception>
+
+#include "core/archive_load.h"
+#include "core/errors.h"
+#include "core/file_writer.h"
+#include "core/text.h"
+
+namespace trv5 {
+
+Inizio::Inizio(Program& program)
+    : Form(program.shell, "INIZIO", "", kHelpContext),
+      Command2(*this, "Command2", "PROCEDI"),
+      Command3(*this, "Command3", "FINE"),
+      Command4(*this, "Command4", "SELEZIONE ARCHIVIO"),
+      CmDHelp(*this, "CmDHelp", "Help in linea"),
+      Label5(*this, "Label5", "Percorso archivio:"),
+      Lbl_Archivio(*this, "Lbl_Archivio"),
+      Label1(*this, "Label1",
+             "Da utilizzare solamente al primo utilizzo del programma. Consultare l'help in linea ------->"),
+      pb1(*this, "pb1"),
+      FgP(*this, "FgP", "|Parametro|Valore1|Valore2"),
+      FgDB(*this, "FgDB", "|DataEstrazione|Ba|Ca|Fi|Ge|Mi|Na|Pa|Ro|To|Ve|Nz"),
+      m_program(program) {
+  Command2.onEvent([this] { Procedi(); });
+  Command3.onEvent([this] { shell().quit(); });
+  Command4.onEvent([this] { SelezionaArchivio(); });
+  CmDHelp.onEvent([this] {
+    setHelpContext(kHelpContext);
+    shell().help(kHelpContext);
+  });
+}
+
+void Inizio::load() {
+  m_program.openMainDatabase();
+  m_program.PercorsoDbArchivio = m_program.parameters().Valore1("PercorsoArchivio").value_or("");
+  Lbl_Archivio.setText(m_program.PercorsoDbArchivio.string());
+  // From here on a failure never stops the start: each step goes on to the next.
+  openArchive();
+  try {
+    fillParameters(m_program.mainDatabase(), FgP);
+    m_program.IndirizzoInternet = exactParameter(FgP, "IndirizzoInternet").value_or("");
+  } catch (const UserError&) {
+    m_program.IndirizzoInternet.clear();
+  }
+  setTitle(fmt::format("TRV5 Nerovia Forge V2: Versione {}", programVersion()));
+  try {
+    ImpostaInizialix();
+  } catch (const std::exception& error) {
+    shell().message({.text = error.what(), .title = "Anomalia", .icon = Icon::Critical});
+  }
+}
+
+void Inizio::openArchive() {
+  const auto open = [this] {
+    m_program.DbArchivio = std::make_unique<Database>(m_program.PercorsoDbArchivio, FileKind::Archive);
+  };
+  try {
+    return open();
+  } catch (const UserError&) {
+    shell().message({.text = "Attenzione, la prima volta è necessario configurare l'origine dell'archivio",
+                     .title = "Selezionare Archivio",
+                     .icon = Icon::Exclamation});
+  }
+  bool chosen = true;
+  try {
+    chosen = SelezionaArchivio();
+  } catch (const UserError& error) {
+    shell().message({.text = error.what(), .title = error.title(), .icon = Icon::Critical});
+  }
+  if (!chosen) return;
+  try {
+    open();
+  } catch (const UserError&) {
+    m_program.DbArchivio.reset();  // PROCEDI will say so
+  }
+}
+
+void Inizio::ImpostaInizialix() {
+  const Parameters parameters = m_program.parameters();
+  if (const auto wheels = parameters.Valore1("Ruote")) {
+    for (std::size_t i = 0; i < wheels->size() && i < m_program.Ruote.size(); ++i)
+      m_program.Ruote[i] = numberOf(wheels->substr(i, 1));
+  }
+  if (const auto wheel = parameters.Valore1("RuotaPrincipale")) m_program.RuotaPrincipale = numberOf(*wheel);
+  if (const auto first = parameters.Valore1("EstrazioneIniziale")) m_program.EstrazioneIniziale = numberOf(*first);
+}
+
+bool Inizio::SelezionaArchivio() {
+  const auto chosen = shell().chooseOpen(
+      {.title = "File di archivio (*.Mdb)", .folder = m_program.folder, .filter = "*.mdb", .defaultExtension = "Mdb"});
+  if (!chosen) return false;
+  // The choice serves this run even where it can't be stored; what couldn't be is told when all is done.
+  std::string failure;
+  try {
+    writeFile(m_program.folder / "PercorsoDatabase.txt", fmt::format("\"{}\"\r\n", chosen->string()));
+  } catch (const UserError& error) {
+    failure = error.what();
+  }
+  m_program.PercorsoDbArchivio = *chosen;
+  try {
+    m_program.parameters().setValore1("PercorsoArchivio", chosen->string());
+  } catch (const UserError& error) {
+    failure = fmt::format("La scelta vale solo per questa esecuzione: non può essere memorizzata. {}", error.what());
+  }
+  Lbl_Archivio.setText("Database: " + chosen->string());
+  if (!failure.empty()) throw UserError(failure);
+  return true;
+}
+
+void Inizio::Procedi() {
+  try {
+    // The bar counts the rows of the query's grid, the heading included.
+    fillFgDB(loadArchive(m_program, [this](int row, int rows) { pb1.set(row, rows + 1); }), FgDB);
+  } catch (const std::exception&) {
+    pb1.set(0, 0);
+    throw UserError(std::string(kOtherArchive));
+  }
+  // No archive could be opened at the start: the one now loaded is held from here on.
+  if (m_program.DbArchivio == nullptr)
+    m_program.DbArchivio = std::make_unique<Database>(m_program.PercorsoDbArchivio, FileKind::Archive);
+  shell().show("Container");
+  shell().close(name());
+}
+
+}  // namespace trv5
