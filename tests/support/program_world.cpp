@@ -23,7 +23,7 @@ void ProgramWorld::makeMain(const std::vector<ParameterRow>& parameters) {
   createMainDatabase(folder / "DbTRV5.mdb", {.parameters = parameters, .systems = {}}, Existing::Replace);
 }
 
-void ProgramWorld::makeMain(const std::filesystem::path& archive) {
+void ProgramWorld::makeMainFor(const std::filesystem::path& archive) {
   makeMain({{.Parametro = "PercorsoArchivio", .Valore1 = archive.string()},
             {.Parametro = "EstrazioneIniziale", .Valore1 = "1"},
             {.Parametro = "IndirizzoInternet", .Valore1 = "https://example.org/estrazioni.txt"}});
@@ -35,7 +35,7 @@ std::filesystem::path ProgramWorld::makeArchive(const std::vector<DrawRow>& rows
 }
 
 void ProgramWorld::makeBoth(const std::vector<DrawRow>& rows) {
-  makeMain(makeArchive(rows));
+  makeMainFor(makeArchive(rows));
 }
 
 Inizio& ProgramWorld::start() {

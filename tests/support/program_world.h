@@ -23,7 +23,7 @@ class ProgramWorld {
   /// Writes DbTRV5.mdb with these parameters.
   void makeMain(const std::vector<ParameterRow>& parameters);
   /// Writes DbTRV5.mdb with `PercorsoArchivio`, `EstrazioneIniziale` 1 and `IndirizzoInternet`.
-  void makeMain(const std::filesystem::path& archive);
+  void makeMainFor(const std::filesystem::path& archive);
   /// Writes an archive into the folder and returns its path.
   std::filesystem::path makeArchive(const std::vector<DrawRow>& rows, const std::string& name = "Archivio.mdb");
   /// A main database set to an archive of these draws.
