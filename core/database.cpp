@@ -3,12 +3,16 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "core/database_marks.h"
+#include "core/file_writer.h"
 #include "core/password.h"
 
 namespace trv5 {
@@ -68,6 +72,10 @@ std::string reasonText(Reason reason, const char* detail) {
       return detail;
   }
   return detail;
+}
+
+bool allowed(const fs::path& path, int access) {
+  return faccessat(AT_FDCWD, path.c_str(), access, AT_EACCESS) == 0;
 }
 
 DatabaseError errorOf(std::string_view attempt, const fs::path& file, Reason reason, const char* detail = "") {
@@ -169,12 +177,11 @@ Database::Database(const fs::path& file, FileKind kind, std::string_view passwor
 Database::~Database() = default;
 
 void Database::open(FileKind kind, std::string_view password) {
-  if (access(m_path.c_str(), R_OK) != 0)
-    throw errorOf("aperto", m_path, Reason::Other, "il permesso di lettura è negato");
+  if (!allowed(m_path, R_OK)) throw errorOf("aperto", m_path, Reason::Other, reasonOf(EACCES).c_str());
   // SQLite itself falls back to reading where the file can't be written.
   m_database = std::make_unique<SQLite::Database>(m_path.string(), SQLite::OPEN_READWRITE, kBusyTimeoutMs);
   sqlite3* const handle = m_database->getHandle();
-  m_readOnly = sqlite3_db_readonly(handle, "main") == 1 || access(m_path.parent_path().c_str(), W_OK) != 0;
+  m_readOnly = sqlite3_db_readonly(handle, "main") == 1 || !allowed(m_path.parent_path(), W_OK);
 
   // Before anything of the file's own schema is looked at.
   sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -233,7 +240,12 @@ void Database::fail(std::string_view attempt) const {
   try {
     throw;
   } catch (const SQLite::Exception& error) {
-    throw errorOf(attempt, m_path, reasonOfCode(error.getErrorCode(), m_readOnly), error.what());
+    // Behind a failed read or write of the disk stands a reason of the system's.
+    const int code = error.getErrorCode() & 0xFF;
+    const int system = m_database == nullptr ? 0 : sqlite3_system_errno(m_database->getHandle());
+    const bool systemFailed = (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && system != 0;
+    throw errorOf(attempt, m_path, reasonOfCode(code, m_readOnly),
+                  systemFailed ? reasonOf(system).c_str() : error.what());
   }
 }
 

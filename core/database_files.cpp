@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <functional>
 
 #include "core/database_marks.h"
@@ -23,23 +24,26 @@ namespace fs = std::filesystem;
 void createFile(const fs::path& file, FileKind kind, Existing existing, std::string_view password,
                 const std::function<void(SQLite::Database&)>& fill) {
   PendingFile pending(file);
-  try {
+  {
     SQLite::Database database(pending.path().string(), SQLite::OPEN_READWRITE);
-    database.exec("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
-    database.exec(
-        fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {}", applicationId(kind), kSchemaVersion));
-    if (!password.empty()) {
-      database.exec(kPasswordSchema);
-      SQLite::Statement insert(database, "INSERT INTO Protezione VALUES (?)");
-      insert.bind(1, passwordHash(password));
-      insert.exec();
+    try {
+      database.exec("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
+      database.exec(
+          fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {}", applicationId(kind), kSchemaVersion));
+      if (!password.empty()) {
+        database.exec(kPasswordSchema);
+        SQLite::Statement insert(database, "INSERT INTO Protezione VALUES (?)");
+        insert.bind(1, passwordHash(password));
+        insert.exec();
+      }
+      fill(database);
+      database.exec("COMMIT");
+    } catch (const SQLite::Exception& error) {
+      const int system = sqlite3_system_errno(database.getHandle());
+      const bool systemFailed = error.getErrorCode() == SQLITE_FULL || error.getErrorCode() == SQLITE_IOERR;
+      throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(),
+                                  systemFailed ? reasonOf(system != 0 ? system : ENOSPC) : error.what()));
     }
-    fill(database);
-    database.exec("COMMIT");
-  } catch (const SQLite::Exception& error) {
-    const bool full = error.getErrorCode() == SQLITE_FULL;
-    throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(),
-                                full ? "il disco è pieno" : error.what()));
   }
   pending.commit(existing);
 }
