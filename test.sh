@@ -24,7 +24,7 @@ build_and_test() {
 }
 
 phase "Build without Qt"
-configure core -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON -DCMAKE_DISABLE_FIND_PACKAGE_QT=ON
+configure core -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
 build_and_test core
 
 phase "Build with sanitizers"
