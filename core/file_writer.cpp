@@ -75,7 +75,7 @@ std::string reasonOf(int error) {
 }
 
 PendingFile::PendingFile(fs::path target) : m_target(behindLinks(target)) {
-  std::string name = (m_target.parent_path() / ("." + m_target.filename().string() + ".XXXXXX")).string();
+  std::string name = (m_target.parent_path() / fmt::format(".{}.XXXXXX", m_target.filename().string())).string();
   m_descriptor = mkostemp(name.data(), O_CLOEXEC);
   if (m_descriptor < 0) fail(errno);
   m_path = name;
