@@ -112,12 +112,12 @@ std::string spanOf(const std::vector<Draw>& draws) {
   return fmt::format("dal {} al {}", dateText(draws.front().day), dateText(draws.back().day));
 }
 
-void writeArchive(const fs::path& file, const std::vector<Draw>& draws, Existing existing) {
+void writeArchive(const fs::path& file, const std::vector<Draw>& draws, Existing existing, std::string_view password) {
   std::vector<DrawRow> rows;
   rows.reserve(draws.size());
   for (const Draw& draw : draws) rows.push_back(rowOf(draw));
   const StopsHeld held;
-  createArchive(file, rows, existing);
+  createArchive(file, rows, existing, password);
 }
 
 void makeModel(const Request& request, std::ostream& output) {
@@ -134,7 +134,8 @@ void makeModel(const Request& request, std::ostream& output) {
 void makeDemo(const Request& request, std::ostream& output) {
   const fs::path file = targetOf(request);
   const std::vector<Draw> draws = simulatedDraws();
-  writeArchive(file, draws, existing(request));
+  // Nothing in it needs a password; its salt would be the one thing that makes each file another.
+  writeArchive(file, draws, existing(request), "");
   output << fmt::format("Creato \"{}\": archivio dimostrativo con {} estrazioni simulate, {}.\n", file.string(),
                         draws.size(), spanOf(draws));
 }
@@ -170,7 +171,7 @@ void makeArchiveOfHistory(const Request& request, std::ostream& output) {
   if (fs::equivalent(source, file, unknown))
     throw UserError(fmt::format("La sorgente e il file da creare sono lo stesso: \"{}\".", source));
   const std::vector<Draw> draws = readHistory(source);
-  writeArchive(file, draws, existing(request));
+  writeArchive(file, draws, existing(request), programPassword());
   output << fmt::format("Creato \"{}\": archivio con {} estrazioni, {}.\n", file.string(), draws.size(), spanOf(draws));
 }
 

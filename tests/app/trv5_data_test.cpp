@@ -134,6 +134,12 @@ TEST_F(Trv5Data, MakesTheDemonstrationArchive) {
   EXPECT_EQ(rows.back().wheels[10], "72-32-78-42-17");
 }
 
+TEST_F(Trv5Data, MakesTheSameDemonstrationArchiveAtEveryRun) {
+  ASSERT_EQ(run({"demo", "a"}).status, 0);
+  ASSERT_EQ(run({"demo", "b"}).status, 0);
+  EXPECT_TRUE(readBytes(folder / "a") == readBytes(folder / "b"));
+}
+
 TEST_F(Trv5Data, MakesAnEmptyExportFile) {
   EXPECT_EQ(run({"esporta-vuoto", "TRV5_Export.mdb"}).status, 0);
   const Database database(folder / "TRV5_Export.mdb", FileKind::Export);
