@@ -55,6 +55,10 @@ void Form::perform(const std::function<void()>& operation) {
   }
 }
 
+bool Form::operationRunning() {
+  return g_depth > 0;
+}
+
 Control::Control(Form& form, std::string name) : m_form(form), m_name(std::move(name)) {
   m_form.m_controls.push_back(this);
   m_form.m_byName[m_name] = this;
