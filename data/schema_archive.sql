@@ -1,8 +1,9 @@
 -- The archive of draws. The date is ISO text, so that it sorts by itself. A wheel's text is five two-digit numbers
--- joined by "-" where it is well-formed; entry by hand may store anything. NULL: the wheel wasn't drawn.
+-- joined by "-" where it is well-formed; entry by hand may store anything. NULL: the wheel wasn't drawn. The "+0 days"
+-- makes the date function look whether the month has that day.
 
 CREATE TABLE EstrazioniLotto (
-  DataEstrazione TEXT NOT NULL CHECK (DataEstrazione IS date(DataEstrazione)),
+  DataEstrazione TEXT NOT NULL CHECK (DataEstrazione LIKE '____-__-__' AND DataEstrazione IS date(DataEstrazione, '+0 days')),
   Ba TEXT,
   Ca TEXT,
   Fi TEXT,
@@ -14,8 +15,8 @@ CREATE TABLE EstrazioniLotto (
   "To" TEXT,
   Ve TEXT,
   Nz TEXT,
-  datareg TEXT CHECK (datareg IS date(datareg)),
-  orareg TEXT CHECK (orareg IS time(orareg))
+  datareg TEXT CHECK (datareg IS NULL OR datareg LIKE '____-__-__' AND datareg IS date(datareg, '+0 days')),
+  orareg TEXT CHECK (orareg IS NULL OR orareg LIKE '__:__:__' AND orareg IS time(orareg))
 ) STRICT;
 CREATE UNIQUE INDEX "PrimaryKey" ON EstrazioniLotto (DataEstrazione);
 
