@@ -26,14 +26,7 @@ fi
 
 echo
 echo "Nessun display: eseguo un metodo intero sull'archivio dimostrativo, senza finestre."
-# A folder of its own, so that the user's own database plays no part.
 demo=$PWD/build/release/dimostrazione
-rm -rf "$demo"
-mkdir -p "$demo/immagini"
-"$bin/trv5-data" modello "$demo/DbTRV5.mdb" --archivio "$archive"
-script=$PWD/packaging/metodo.txt
-cd "$demo"
-"$bin/trv5-console" <"$script" >risposte.jsonl || true # the report names the line that failed
-"$bin/trv5-report" "$script" risposte.jsonl
+packaging/demo.sh "$bin" "$demo"
 echo
 echo "Immagini delle finestre: $demo/immagini"
