@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <vector>
+
+#include "core/container.h"
+#include "screens/screen.h"
+
+class QBoxLayout;
+class QFrame;
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QScrollArea;
+
+namespace trv5 {
+
+class GridView;
+class RailButton;
+
+/// The shell: the panel at the left, the area where the other screens open, the status bar.
+class ContainerWindow : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit ContainerWindow(Container& form);
+  ~ContainerWindow() override;
+
+  /// Puts a new screen into the area.
+  void place(QWidget& screen, const ScreenEntry& entry);
+  /// Brings a placed screen to the front.
+  void bringToFront(QWidget& screen);
+  /// Takes a screen out of sight; its widget lives on.
+  void takeAway(QWidget& screen);
+  /// The open screens, the front one last.
+  void setOpenScreens(const std::vector<std::string>& names);
+  void showStatus(const QString& text);
+
+  void restore(const QSettings& settings);
+  void store(QSettings& settings) const;
+
+  bool railWide() const { return m_wide; }
+  void toggleRail();
+
+ Q_SIGNALS:
+  /// The user closed, or clicked into, the screen of that name.
+  void closedByUser(const QString& screen);
+  void activatedByUser(const QString& screen);
+  void nextScreenWanted();
+  void helpWanted();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void buildRail();
+  void buildStatusBlock(QBoxLayout& into);
+  void buildArea();
+  void buildStatusBar();
+  void buildKeys();
+  void layoutParts();
+  void setWide(bool wide);
+  QMdiSubWindow* windowOf(const QWidget& screen) const;
+
+  struct ScreenButton {
+    RailButton* button;
+    std::string screen;
+  };
+
+  Container& m_form;
+  Kit m_kit;
+  QWidget* m_centre;
+  QWidget* m_rail;
+  QMdiArea* m_area;
+  QWidget* m_empty;
+  RailButton* m_menu = nullptr;
+  std::vector<ScreenButton> m_buttons;
+  std::vector<RailButton*> m_otherButtons;
+  QBoxLayout* m_bottom = nullptr;
+  QWidget* m_wideOnly = nullptr;  // status block and list of draws
+  QWidget* m_filler = nullptr;
+  GridView* m_draws = nullptr;
+  QLabel *m_status = nullptr, *m_lastDate = nullptr, *m_lastIndex = nullptr;
+  bool m_wide = true, m_anyOpen = false;
+  // What the user chose last while no screen is open, and while one is.
+  bool m_wideEmpty = true, m_wideOpen = false;
+  bool m_shownOnce = false;
+};
+
+}  // namespace trv5
