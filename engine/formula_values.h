@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/search.h"
+
+namespace trv5 {
+
+/// The raw values of all element sets in the draws of some cases.
+///
+/// Every operator but the product is a sum, modulo 90, of a part that only the first element makes and a part that only
+/// the second makes. So what is kept is the part of each of the 55 drawn numbers in each case, a row of bytes over the
+/// cases for each number, and the values of an element set in all cases are the byte-wise sum of two or three rows.
+class FormulaValues {
+ public:
+  /// Rows are read and written in steps of so many cases; a row is as long as the cases filled up to a multiple.
+  static constexpr std::size_t kStep = 32;
+
+  /// `draws`: the draw of each case; one outside the archive has no number drawn.
+  FormulaValues(const Archive& archive, const FormulaInput& formula, const std::vector<int>& draws,
+                std::vector<ElementSet> sets);
+
+  std::size_t sets() const { return m_sets.size(); }
+  const ElementSet& set(std::size_t index) const { return m_sets[index]; }
+  std::size_t rowLength() const { return m_rowLength; }
+
+  /// The raw values, 0..89, of an element set in all cases: rowLength() bytes, those behind the last case 0 to 89 too.
+  /// Inlined into the loops of the vote counter, so that they are compiled for the processor they run on.
+  [[gnu::always_inline]] void values(std::size_t index, std::uint8_t* out) const {
+    const ElementSet& set = m_sets[index];
+    const std::uint8_t* a = part(0, set);
+    switch (m_kind) {
+      case Kind::One:
+        for (std::size_t i = 0; i < m_rowLength; ++i) out[i] = a[i];
+        return;
+      case Kind::Sum:
+        addInto(out, a, part(1, set));
+        return;
+      case Kind::SumOfThree:
+        addInto(out, a, part(1, set));
+        addInto(out, out, part(2, set));
+        return;
+      case Kind::Product: {
+        const std::uint8_t* b = part(1, set);
+        for (std::size_t i = 0; i < m_rowLength; ++i)
+          out[i] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(a[i] * b[i]) % 90);
+        return;
+      }
+    }
+  }
+
+ private:
+  enum class Kind : std::uint8_t { One, Sum, SumOfThree, Product };
+
+  const std::uint8_t* part(std::size_t element, const ElementSet& set) const {
+    const std::size_t drawn = set.wheels[element] * std::size_t{kPositions} + set.positions[element] - 1U;
+    return &m_parts[(element * Archive::kDrawBytes + drawn) * m_rowLength];
+  }
+
+  // Both parts are below 90, so the sum fits a byte; less 90 it wraps around to something greater where it was below.
+  [[gnu::always_inline]] void addInto(std::uint8_t* out, const std::uint8_t* a, const std::uint8_t* b) const {
+    for (std::size_t i = 0; i < m_rowLength; ++i) {
+      const auto sum = static_cast<std::uint8_t>(a[i] + b[i]);
+      const auto less = static_cast<std::uint8_t>(sum - 90);
+      out[i] = sum < less ? sum : less;
+    }
+  }
+
+  Kind m_kind = Kind::One;
+  std::vector<ElementSet> m_sets;
+  std::size_t m_rowLength = 0;
+  std::vector<std::uint8_t> m_parts;  // by element, drawn number 0..54 (wheel by wheel), case
+};
+
+}  // namespace trv5

@@ -1,0 +1,115 @@
+#include <cstddef>
+
+#include "engine/drawn_numbers.h"
+#include "engine/search.h"
+#include "engine/vote_counter.h"
+
+namespace trv5 {
+namespace {
+
+NumberFlags fixesOf(const AmbataRequest& request) {
+  if (request.withFix) return request.allowedFix;
+  NumberFlags none{};
+  none[90] = true;
+  return none;
+}
+
+// How often each number was drawn after each case: on all wheels together, or wheel by wheel where wheel sets have to
+// be put together.
+class DrawnAfterCases {
+ public:
+  explicit DrawnAfterCases(const AmbataRequest& request)
+      : m_wheelByWheel(request.wheelSets.size() > 1), m_drawn(request.cases.size() * (m_wheelByWheel ? kWheels : 1)) {
+    WheelSet wanted = 0;
+    for (const WheelSet set : request.wheelSets) wanted |= set;
+    for (std::size_t i = 0; i < request.cases.size(); ++i) {
+      const ColpiWindow window = windowAfter(request.cases[i], request.colpi, request.lastDraw);
+      if (!m_wheelByWheel) {
+        addDrawn(*request.archive, window, wanted, m_drawn[i]);
+        continue;
+      }
+      for (int w = 0; w < kWheels; ++w)
+        if (holds(wanted, w)) addDrawn(*request.archive, window, 1U << w, wheel(i, w));
+    }
+  }
+
+  // How many different numbers of each residue were drawn: 0 and 90 are two.
+  std::vector<ResidueWeights> weights() const {
+    std::vector<ResidueWeights> weights(m_drawn.size());
+    for (std::size_t i = 0; i < m_drawn.size(); ++i) {
+      for (std::size_t n = 0; n < 90; ++n) weights[i][n] = m_drawn[i][n] != 0;
+      weights[i][0] += m_drawn[i][90] != 0;
+    }
+    return weights;
+  }
+
+  std::vector<WheelsByNumber> wheelsByNumber() const {
+    std::vector<WheelsByNumber> wheels(m_drawn.size() / kWheels);
+    for (std::size_t i = 0; i < wheels.size(); ++i)
+      for (int w = 0; w < kWheels; ++w) {
+        const DrawnNumbers& drawn = wheel(i, w);
+        for (std::size_t n = 0; n < drawn.size(); ++n)
+          wheels[i][n] = static_cast<std::uint16_t>(wheels[i][n] | (drawn[n] != 0 ? 1 << w : 0));
+      }
+    return wheels;
+  }
+
+  // How often the numbers of a residue were drawn after a case on a wheel set of the request.
+  std::uint32_t times(std::size_t index, WheelSet set, std::size_t residue) const {
+    if (!m_wheelByWheel) return timesIn(m_drawn[index], residue);
+    std::uint32_t times = 0;
+    for (int w = 0; w < kWheels; ++w)
+      if (holds(set, w)) times += timesIn(wheel(index, w), residue);
+    return times;
+  }
+
+ private:
+  static std::uint32_t timesIn(const DrawnNumbers& drawn, std::size_t residue) {
+    return residue == 0 ? drawn[0] + drawn[90] : drawn[residue];
+  }
+  DrawnNumbers& wheel(std::size_t index, int w) { return m_drawn[index * kWheels + static_cast<std::size_t>(w)]; }
+  const DrawnNumbers& wheel(std::size_t index, int w) const {
+    return m_drawn[index * kWheels + static_cast<std::size_t>(w)];
+  }
+
+  bool m_wheelByWheel;
+  std::vector<DrawnNumbers> m_drawn;
+};
+
+}  // namespace
+
+std::vector<Candidate> searchAmbate(const AmbataRequest& request) {
+  if (request.keep < 1 || request.wheelSets.empty()) return {};
+  const FormulaInput& formula = request.formula;
+  const DrawnAfterCases drawn(request);
+  const VoteRings rings =
+      request.wheelSets.size() == 1 ? VoteRings(drawn.weights()) : VoteRings(drawn.wheelsByNumber(), request.wheelSets);
+  std::vector<int> draws;
+  for (const int index : rings.cases()) draws.push_back(request.cases[static_cast<std::size_t>(index)]);
+  const FormulaValues values(*request.archive, formula, draws,
+                             elementSets(formula.shape, SetOrder::WheelsFirst, formula.triples));
+  Ranking ranking(request.keep);
+  rankVotes(rings, values, fixesOf(request), ranking);
+
+  std::vector<Candidate> candidates;
+  std::vector<std::uint8_t> row(values.rowLength());
+  for (const Ranking::Row& found : ranking.rows()) {
+    const auto set = static_cast<std::size_t>(found.set);
+    Candidate candidate{values.set(set), found.fix, found.count, 0, found.wheelSet};
+    if (request.repeatsAtZeroGetLost && found.fix == 90) {
+      candidate.pres = found.count;
+    } else {
+      const WheelSet wheels = request.wheelSets[static_cast<std::size_t>(found.wheelSet)];
+      values.values(set, row.data());
+      std::uint32_t pres = 0;
+      for (std::size_t i = 0; i < draws.size(); ++i)
+        pres += drawn.times(static_cast<std::size_t>(rings.cases()[i]), wheels,
+                            static_cast<std::size_t>(row[i] + found.fix) % 90);
+      candidate.pres = static_cast<int>(pres);
+    }
+    candidates.push_back(candidate);
+  }
+  return candidates;
+}
+
+}  // namespace trv5

@@ -1,0 +1,284 @@
+#include "engine/vote_counter.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+// One build of the loops for every processor of the kind and one for those with 32-byte integer registers; which one
+// runs is settled when the program is loaded.
+#if defined(__x86_64__) && defined(__gnu_linux__)
+#define TRV5_FOR_EACH_PROCESSOR [[gnu::target_clones("default", "avx2")]]
+#else
+#define TRV5_FOR_EACH_PROCESSOR
+#endif
+// What the loops are made of has to be compiled with them.
+#define TRV5_PART_OF_LOOP [[gnu::always_inline]] inline
+
+namespace trv5 {
+namespace {
+
+using Lanes = std::uint64_t __attribute__((vector_size(32)));
+using HalfLanes = std::uint64_t __attribute__((vector_size(16)));
+constexpr std::size_t kBytes = sizeof(Lanes);
+constexpr std::size_t kWords = kBytes / 8;
+
+// Planes of a counter: up to 31 for the counts, and above them the ones that an adder tree that begins at a high level
+// may touch without leaving anything there.
+constexpr std::size_t kMostPlanes = 36;
+
+// Three rows of one weight make one of the same weight and one of the double. `sum` may be one of the three.
+TRV5_PART_OF_LOOP void addRows(Lanes& twice, Lanes& sum, const Lanes& a, const Lanes& b, const Lanes& c) {
+  const Lanes either = a ^ b;
+  const Lanes both = a & b;
+  twice = both | (either & c);
+  sum = either ^ c;
+}
+
+// The rows of two element sets, one in each half of the register; one wheel set.
+struct TwoSets {
+  const std::uint8_t* ring;
+  const std::uint8_t *first, *second;  // by case, where the run begins within the ring
+
+  TRV5_PART_OF_LOOP void load(Lanes& row, std::size_t i) const {
+    HalfLanes low, high;
+    std::memcpy(&low, ring + i * VoteRings::kNarrowRing + first[i], sizeof low);
+    std::memcpy(&high, ring + i * VoteRings::kNarrowRing + second[i], sizeof high);
+    row = __builtin_shufflevector(low, high, 0, 1, 2, 3);
+  }
+};
+
+// A piece of the rows of one element set; several wheel sets.
+struct PieceOfSet {
+  const std::uint8_t* ring;
+  const std::uint32_t* begin;  // by case, where the run begins within the level
+
+  TRV5_PART_OF_LOOP void load(Lanes& row, std::size_t i) const { std::memcpy(&row, ring + begin[i], sizeof row); }
+};
+
+// Eight rows join the lowest three planes; what they carry beyond is left in `eights`.
+template <class Rows>
+TRV5_PART_OF_LOOP void addEight(const Rows& rows, std::size_t i, Lanes& p0, Lanes& p1, Lanes& p2, Lanes& eights) {
+  Lanes a, b, twos, moreTwos, fours, moreFours;
+  rows.load(a, i);
+  rows.load(b, i + 1);
+  addRows(twos, p0, p0, a, b);
+  rows.load(a, i + 2);
+  rows.load(b, i + 3);
+  addRows(moreTwos, p0, p0, a, b);
+  addRows(fours, p1, p1, twos, moreTwos);
+  rows.load(a, i + 4);
+  rows.load(b, i + 5);
+  addRows(twos, p0, p0, a, b);
+  rows.load(a, i + 6);
+  rows.load(b, i + 7);
+  addRows(moreTwos, p0, p0, a, b);
+  addRows(moreFours, p1, p1, twos, moreTwos);
+  addRows(eights, p2, p2, fours, moreFours);
+}
+
+TRV5_PART_OF_LOOP void ripple(Lanes* planes, std::size_t from, std::size_t count, Lanes& carry) {
+  for (std::size_t j = from; j < count; ++j) {
+    const Lanes next = planes[j] & carry;
+    planes[j] ^= carry;
+    carry = next;
+  }
+}
+
+// Adds `cases` rows, an even number, to the counters whose lowest plane is planes[0]; at least four planes.
+template <class Rows>
+TRV5_PART_OF_LOOP void addLevel(const Rows& rows, std::size_t cases, Lanes* planes, std::size_t count) {
+  Lanes p0 = planes[0], p1 = planes[1], p2 = planes[2], p3 = planes[3];
+  std::size_t i = 0;
+  for (; i + 16 <= cases; i += 16) {
+    Lanes eights, moreEights, carry;
+    addEight(rows, i, p0, p1, p2, eights);
+    addEight(rows, i + 8, p0, p1, p2, moreEights);
+    addRows(carry, p3, p3, eights, moreEights);
+    ripple(planes, 4, count, carry);
+  }
+  if (i + 8 <= cases) {
+    Lanes eights;
+    addEight(rows, i, p0, p1, p2, eights);
+    Lanes carry = p3 & eights;
+    p3 ^= eights;
+    ripple(planes, 4, count, carry);
+    i += 8;
+  }
+  for (; i < cases; i += 2) {
+    Lanes a, b, twos;
+    rows.load(a, i);
+    rows.load(b, i + 1);
+    addRows(twos, p0, p0, a, b);
+    const Lanes fours = p1 & twos;
+    p1 ^= twos;
+    const Lanes eights = p2 & fours;
+    p2 ^= fours;
+    Lanes carry = p3 & eights;
+    p3 ^= eights;
+    ripple(planes, 4, count, carry);
+  }
+  planes[0] = p0;
+  planes[1] = p1;
+  planes[2] = p2;
+  planes[3] = p3;
+}
+
+// The counters of a register while they are summed up. They start so that those that reach the threshold reach the
+// highest plane.
+struct Counters {
+  Lanes planes[kMostPlanes];
+  std::size_t highest;  // plane
+  int start = 0;
+
+  explicit Counters(int mostVotes)
+      : planes{},
+        highest(static_cast<std::size_t>(std::bit_width(static_cast<unsigned>(std::max(mostVotes, 1) - 1)))) {}
+
+  TRV5_PART_OF_LOOP void clear(int threshold) {
+    start = (1 << highest) - threshold;
+    for (std::size_t j = 0; j <= highest; ++j) planes[j] = Lanes{} - static_cast<std::uint64_t>(start >> j & 1);
+  }
+
+  // All levels of a ring, `levelOf(l)` giving the rows of level l.
+  template <class Rows>
+  TRV5_PART_OF_LOOP void add(const VoteRings& rings, Rows rows) {
+    const std::uint8_t* ring = rows.ring;
+    const std::uint8_t* lowest = rings.level(0);
+    for (std::size_t level = 0; level < rings.levels(); ++level) {
+      rows.ring = ring + (rings.level(level) - lowest);
+      addLevel(rows, rings.casesOfLevel(level), &planes[level],
+               std::max<std::size_t>(highest + 1 - std::min(level, highest), 4));
+    }
+  }
+
+  TRV5_PART_OF_LOOP bool reached(const Lanes& looked, Lanes& bits) const {
+    bits = planes[highest] & looked;
+    return (bits[0] | bits[1] | bits[2] | bits[3]) != 0;
+  }
+
+  // The count of one counter.
+  int count(std::size_t word, int bit) const {
+    int sum = 0;
+    for (std::size_t j = 0; j <= highest; ++j) sum |= static_cast<int>(planes[j][word] >> bit & 1U) << j;
+    return sum - start;
+  }
+};
+
+// The residues of the fixes that count: the votes for fix d stand d residues behind V.
+std::array<bool, 90> residuesOf(const NumberFlags& fixes) {
+  std::array<bool, 90> residues{};
+  for (std::size_t fix = 1; fix <= 90; ++fix) residues[fix % 90] = fixes[fix];
+  return residues;
+}
+
+int fixOf(std::size_t residue) {
+  return residue == 0 ? 90 : static_cast<int>(residue);
+}
+
+// The copy of the ring in which residue V begins a byte, and that byte: the three lower bits of V and the five upper
+// ones change places.
+TRV5_PART_OF_LOOP void findRuns(std::uint8_t* run, std::size_t length) {
+  for (std::size_t i = 0; i < length; ++i) run[i] = static_cast<std::uint8_t>(run[i] << 5 | run[i] >> 3);
+}
+
+void offerTwoSets(const Counters& counters, const Lanes& reached, std::size_t set, Ranking& ranking) {
+  for (std::size_t word = 0; word < kWords; ++word)
+    for (std::uint64_t bits = reached[word]; bits != 0; bits &= bits - 1) {
+      const int bit = std::countr_zero(bits);
+      const int fix = fixOf(word % 2 * 64 + static_cast<std::size_t>(bit));
+      ranking.offer({counters.count(word, bit), 0, fix, static_cast<int>(set + word / 2)});
+    }
+}
+
+TRV5_FOR_EACH_PROCESSOR
+void rankOneWheelSet(const VoteRings& rings, const FormulaValues& values, const NumberFlags& fixes, Ranking& ranking) {
+  std::array<std::uint64_t, 2> looked{};
+  const std::array<bool, 90> residues = residuesOf(fixes);
+  for (std::size_t r = 0; r < residues.size(); ++r) looked[r / 64] |= std::uint64_t{residues[r]} << r % 64;
+  const Lanes pairLooked = {looked[0], looked[1], looked[0], looked[1]};
+  const Lanes singleLooked = {looked[0], looked[1], 0, 0};
+
+  std::vector<std::uint8_t> first(values.rowLength()), second(values.rowLength());
+  Counters counters(rings.mostVotes());
+  for (std::size_t set = 0; set < values.sets(); set += 2) {
+    const bool pair = set + 1 < values.sets();
+    values.values(set, first.data());
+    values.values(pair ? set + 1 : set, second.data());
+    findRuns(first.data(), first.size());
+    findRuns(second.data(), second.size());
+    counters.clear(ranking.threshold());
+    counters.add(rings, TwoSets{rings.level(0), first.data(), second.data()});
+    Lanes reached;
+    if (counters.reached(pair ? pairLooked : singleLooked, reached)) offerTwoSets(counters, reached, set, ranking);
+  }
+}
+
+// 32 bytes of the 90 rows of an element set, and in them the bits of allowed fixes.
+struct Piece {
+  std::size_t offset;
+  std::array<std::uint64_t, kWords> looked;
+};
+
+std::vector<Piece> piecesOf(const VoteRings& rings, const NumberFlags& fixes) {
+  const std::array<bool, 90> residues = residuesOf(fixes);
+  const std::size_t residueBits = rings.residueBytes() * 8;
+  std::vector<Piece> pieces;
+  for (std::size_t offset = 0; offset < residues.size() * rings.residueBytes(); offset += kBytes) {
+    Piece piece{offset, {}};
+    bool any = false;
+    for (std::size_t i = 0; i < kBytes * 8; ++i) {
+      const std::size_t bit = offset * 8 + i;
+      if (bit / residueBits >= residues.size() || !residues[bit / residueBits]) continue;
+      if (bit % residueBits >= rings.wheelSets()) continue;
+      piece.looked[i / 64] |= std::uint64_t{1} << i % 64;
+      any = true;
+    }
+    if (any) pieces.push_back(piece);
+  }
+  return pieces;
+}
+
+void offerPiece(const Counters& counters, const Lanes& reached, std::size_t offset, std::size_t residueBits,
+                std::size_t set, Ranking& ranking) {
+  for (std::size_t word = 0; word < kWords; ++word)
+    for (std::uint64_t bits = reached[word]; bits != 0; bits &= bits - 1) {
+      const int bit = std::countr_zero(bits);
+      const std::size_t at = offset * 8 + word * 64 + static_cast<std::size_t>(bit);
+      const int wheelSet = static_cast<int>(at % residueBits);
+      ranking.offer({counters.count(word, bit), wheelSet, fixOf(at / residueBits), static_cast<int>(set)});
+    }
+}
+
+TRV5_FOR_EACH_PROCESSOR
+void rankWheelSets(const VoteRings& rings, const FormulaValues& values, const NumberFlags& fixes, Ranking& ranking) {
+  const std::vector<Piece> pieces = piecesOf(rings, fixes);
+  const auto residueBytes = static_cast<std::uint32_t>(rings.residueBytes());
+  std::vector<std::uint8_t> run(values.rowLength());
+  std::vector<std::uint32_t> ringOfCase(values.rowLength()), begin(values.rowLength());
+  for (std::size_t i = 0; i < ringOfCase.size(); ++i) ringOfCase[i] = static_cast<std::uint32_t>(i * rings.stride());
+  Counters counters(rings.mostVotes());
+  for (std::size_t set = 0; set < values.sets(); ++set) {
+    values.values(set, run.data());
+    for (std::size_t i = 0; i < begin.size(); ++i) begin[i] = ringOfCase[i] + run[i] * residueBytes;
+    for (const Piece& piece : pieces) {
+      counters.clear(ranking.threshold());
+      counters.add(rings, PieceOfSet{rings.level(0) + piece.offset, begin.data()});
+      const Lanes looked = {piece.looked[0], piece.looked[1], piece.looked[2], piece.looked[3]};
+      Lanes reached;
+      if (counters.reached(looked, reached))
+        offerPiece(counters, reached, piece.offset, std::size_t{residueBytes} * 8, set, ranking);
+    }
+  }
+}
+
+}  // namespace
+
+void rankVotes(const VoteRings& rings, const FormulaValues& values, const NumberFlags& fixes, Ranking& ranking) {
+  if (rings.levels() == 0) return;
+  if (rings.narrow())
+    rankOneWheelSet(rings, values, fixes, ranking);
+  else
+    rankWheelSets(rings, values, fixes, ranking);
+}
+
+}  // namespace trv5

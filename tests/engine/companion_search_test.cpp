@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include "engine/random_search.h"
+#include "support/archive_builder.h"
+#include "support/print_candidate.h"
+
+namespace trv5 {
+namespace {
+
+void compareOnSeed(unsigned seed, Shape shape, int settings) {
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  std::mt19937 rng(seed);
+  const Archive archive = randomSearchArchive(rng);
+  for (int setting = 0; setting < settings; ++setting) {
+    SCOPED_TRACE("setting " + std::to_string(setting));
+    const PlainFormula formula = randomFormula(rng, shape);
+    CompanionRequest request = randomCompanionRequest(rng, archive);
+    request.formula = formulaInput(formula);
+    ASSERT_EQ(searchCompanions(request), plainSearchCompanions(formula, request));
+  }
+}
+
+void compare(Shape shape, unsigned firstSeed) {
+  for (unsigned seed = firstSeed; seed < firstSeed + 100; ++seed) {
+    compareOnSeed(seed, shape, 30);  // ambo, terno and lunghetta take turns at random
+    if (testing::Test::HasFatalFailure()) return;
+  }
+}
+
+TEST(CompanionSearch, OfOneNumberAgreesWithThePlainCount) {
+  compare(Shape::OneNumber, 11000);
+}
+
+TEST(CompanionSearch, OfTwoNumbersOnOneWheelAgreesWithThePlainCount) {
+  compare(Shape::TwoOneWheel, 12000);
+}
+
+TEST(CompanionSearch, OfThreeNumbersOnOneWheelAgreesWithThePlainCount) {
+  compare(Shape::ThreeOneWheel, 13000);
+}
+
+TEST(CompanionSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
+  compare(Shape::TwoTwoWheels, 14000);
+}
+
+// The case is draw 1, with 10 at the first place of BA. Without fix a formula finds the companion itself, so the
+// number 20 is that of fix 10.
+const WheelNumbers kCase = {{"BA", {10, 11, 12, 13, 14}}};
+constexpr WheelSet kBariAndCagliari = 3U;
+
+CompanionRequest onRows(const Archive& archive, std::vector<CompanionRow> rows) {
+  CompanionRequest request;
+  request.archive = &archive;
+  request.formula = formulaInput({});
+  request.rows = std::move(rows);
+  request.wheels = kBariAndCagliari;
+  request.allowedFix = everyFix();
+  request.withFix = true;
+  request.keep = 5000;
+  return request;
+}
+
+// The row of BA's first number with the fix that makes `number` of it; an empty one where there is none.
+Candidate rowOf(const CompanionRequest& request, int number) {
+  for (const Candidate& row : searchCompanions(request))
+    if (row.elements == ElementSet{{0, 0, 0}, {1, 0, 0}} && row.fix == fold90(number - 10)) return row;
+  return {};
+}
+
+TEST(CompanionSearch, CountsTheFourNumbersThatCameOutWithTheAmbata) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}, {"CA", {2, 3, 4, 5, 6}}}});
+  const CompanionRequest request = onRows(archive, {{1, 2, {1}}});
+  for (const int companion : {20, 30, 40, 50}) EXPECT_EQ(rowOf(request, companion).cc, 1);
+  EXPECT_EQ(rowOf(request, 1).cc, 0);
+  EXPECT_EQ(rowOf(request, 2).cc, 0);
+}
+
+TEST(CompanionSearch, WithoutFixFindsTheCompanionThatTheFormulaGivesItself) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 10, 30, 40, 50}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1}}});
+  request.withFix = false;
+  const std::vector<Candidate> rows = searchCompanions(request);
+  ASSERT_EQ(rows.size(), 1U);
+  EXPECT_EQ(rows.front(), (Candidate{{{0, 0, 0}, {1, 0, 0}}, 90, 1, 1, 0}));
+}
+
+TEST(CompanionSearch, CountsTheSameHitOnTwoWheelsOnBoth) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}, {"CA", {20, 1, 4, 5, 6}}}});
+  const Candidate row = rowOf(onRows(archive, {{1, 2, {1}}}), 20);
+  EXPECT_EQ(row.cc, 2);
+  EXPECT_EQ(row.pres, 2);
+}
+
+TEST(CompanionSearch, CountsEveryRowOfARepeatedHitDrawWithoutGuard) {
+  const Archive archive = archiveOf({kCase, kCase, {{"BA", {1, 20, 30, 40, 50}}}});
+  EXPECT_EQ(rowOf(onRows(archive, {{1, 3, {1}}, {2, 3, {1}}}), 20).cc, 2);
+}
+
+TEST(CompanionSearch, OfTernoNeedsTheWholeAmboOnOneWheel) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}, {"CA", {1, 2, 25, 5, 6}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1, 2}}});
+  request.least = request.most = 2;
+  request.guarded = true;
+  EXPECT_EQ(rowOf(request, 25).cc, 1);
+  EXPECT_EQ(rowOf(request, 20).cc, 0);
+}
+
+TEST(CompanionSearch, OfTernoAddsNothingForAnAmboOfTwoEqualNumbers) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1, 1}}});
+  request.least = request.most = 2;
+  EXPECT_TRUE(searchCompanions(request).empty());
+}
+
+TEST(CompanionSearch, OfTernoDropsTheSecondRowOfAHitDrawOnlyWithGuard) {
+  const Archive archive = archiveOf({kCase, kCase, {{"BA", {1, 2, 20, 40, 50}}}});
+  CompanionRequest request = onRows(archive, {{1, 3, {1, 2}}, {2, 3, {1, 2}}});
+  request.least = request.most = 2;
+  EXPECT_EQ(rowOf(request, 20).cc, 2);
+  request.guarded = true;
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+}
+
+TEST(CompanionSearch, OfTernoKeepsAHitDrawFreeUntilARowFindsItsAmboThere) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 2, 20, 40, 50}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1, 7}}, {1, 2, {1, 2}}});
+  request.least = request.most = 2;
+  request.guarded = true;
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+}
+
+TEST(CompanionSearch, OfTernoCountsACompanionOnTwoWheelsAsOneCaseAndTwoPresences) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 2, 20, 40, 50}}, {"CA", {20, 1, 2, 5, 6}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1, 2}}});
+  request.least = request.most = 2;
+  request.guarded = true;
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+  EXPECT_EQ(rowOf(request, 20).pres, 2);
+  request.guarded = false;
+  EXPECT_EQ(rowOf(request, 20).cc, 2);
+}
+
+TEST(CompanionSearch, OfLunghettaTakesWheelsWithAtLeastTheNumbersAskedFor) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}, {"CA", {1, 2, 3, 25, 6}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1, 2, 3}}});
+  request.least = 2;
+  EXPECT_EQ(rowOf(request, 25).cc, 1);
+  EXPECT_EQ(rowOf(request, 20).cc, 0);
+  request.least = 1;
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+}
+
+TEST(CompanionSearch, RanksEqualFormulasOfTwoWheelsElementByElement) {
+  const Archive archive = archiveOf({{{"BA", {1, 2, 3, 4, 5}}, {"CA", {6, 7, 8, 9, 10}}, {"FI", {11, 12, 13, 14, 15}}},
+                                     {{"BA", {1, 17, 30, 40, 50}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {1}}});
+  request.formula = formulaInput({Shape::TwoTwoWheels});
+  request.withFix = false;
+  std::vector<ElementSet> found;
+  for (const Candidate& row : searchCompanions(request))
+    if (row.elements.wheels[1] < 3) found.push_back(row.elements);
+  // Sums of 17: the pairs of BA and FI with position 4 of BA stand behind those with position 2 and 3.
+  const std::vector<ElementSet> expected = {{{0, 2, 0}, {2, 5, 0}},
+                                            {{0, 2, 0}, {3, 4, 0}},
+                                            {{0, 2, 0}, {4, 3, 0}},
+                                            {{0, 2, 0}, {5, 2, 0}},
+                                            {{1, 2, 0}, {1, 1, 0}}};
+  EXPECT_EQ(found, expected);
+}
+
+TEST(CompanionSearch, CountsPastTwoHundredFiftyFive) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}, {"CA", {20, 1, 4, 5, 6}}}});
+  const CompanionRequest request = onRows(archive, std::vector<CompanionRow>(300, {1, 2, {1}}));
+  EXPECT_EQ(rowOf(request, 20).cc, 600);
+}
+
+}  // namespace
+}  // namespace trv5
