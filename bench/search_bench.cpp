@@ -1,0 +1,159 @@
+// The searches beside the plain transcription of their rules: the time of both, from the archive in memory to the
+// ranked rows, and the ratio of the two from the same run.
+//
+//   search_bench [HISTORY]    HISTORY: an archive file of draws as the program opens it; a generated one without it
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "engine/search.h"
+#include "support/archive_builder.h"
+#include "support/plain_search.h"
+
+namespace trv5 {
+namespace {
+
+constexpr int kKeep = 100;
+constexpr int kCases = 50;
+constexpr WheelSet kEveryWheel = (1U << kWheels) - 1U;
+
+// Seconds of one call, the median of as many as fit some time; at least three.
+double secondsOf(const std::function<void()>& call, double time) {
+  using Clock = std::chrono::steady_clock;
+  std::vector<double> taken;
+  double sum = 0;
+  while (taken.size() < 3 || sum < time) {
+    const auto start = Clock::now();
+    call();
+    taken.push_back(std::chrono::duration<double>(Clock::now() - start).count());
+    sum += taken.back();
+  }
+  std::nth_element(taken.begin(), taken.begin() + static_cast<std::ptrdiff_t>(taken.size() / 2), taken.end());
+  return taken[taken.size() / 2];
+}
+
+bool g_allAgree = true;
+
+template <class Plain, class Fast>
+void compare(const std::string& name, Plain plain, Fast fast) {
+  const bool agree = plain() == fast();
+  g_allAgree = g_allAgree && agree;
+  const double slow = secondsOf([&] { plain(); }, 0.3), quick = secondsOf([&] { fast(); }, 0.3);
+  fmt::print("{:<44} {:>11.3f} {:>10.4f} {:>8.1f}{}\n", name, slow * 1e3, quick * 1e3, slow / quick,
+             agree ? "" : "   THE RESULTS DIFFER");
+}
+
+PlainFormula formulaOf(Shape shape) {
+  return {shape, 0, 0, 0, ascendingTriples()};
+}
+
+std::string shapeName(Shape shape) {
+  constexpr const char* kNames[] = {"1N 1R", "2N 1R", "3N 1R", "2N 2R"};
+  return kNames[static_cast<int>(shape)];
+}
+
+AmbataRequest ambataRequest(const Archive& archive, int colpi) {
+  AmbataRequest request;
+  request.archive = &archive;
+  // A case about once in four weeks, up to the last draws.
+  for (int i = 0; i < kCases; ++i) request.cases.push_back(archive.NumEstrazioni() - 12 - 14 * (kCases - 1 - i));
+  request.colpi = colpi;
+  request.lastDraw = archive.NumEstrazioni();
+  request.allowedFix = everyFix();
+  request.withFix = true;
+  request.keep = kKeep;
+  return request;
+}
+
+void benchAmbate(const Archive& archive) {
+  for (const int colpi : {10, 20})
+    for (const WheelSet wheels : {WheelSet{1}, kEveryWheel})
+      for (const Shape shape : {Shape::OneNumber, Shape::TwoOneWheel, Shape::ThreeOneWheel, Shape::TwoTwoWheels}) {
+        AmbataRequest request = ambataRequest(archive, colpi);
+        request.wheelSets = {wheels};
+        const PlainFormula formula = formulaOf(shape);
+        request.formula = formulaInput(formula);
+        compare(
+            fmt::format("ambate {}, {} colpi, {}", shapeName(shape), colpi, wheels == 1 ? "1 wheel" : "11 wheels"),
+            [&] { return plainSearchAmbate(formula, request); }, [&] { return searchAmbate(request); });
+      }
+}
+
+void benchBestWheels(const Archive& archive) {
+  const auto bench = [&](Shape shape, int wheels) {
+    AmbataRequest request = ambataRequest(archive, 10);
+    request.wheelSets = wheelSetsOf(wheels);
+    request.repeatsAtZeroGetLost = shape == Shape::OneNumber;
+    const PlainFormula formula = formulaOf(shape);
+    request.formula = formulaInput(formula);
+    compare(
+        fmt::format("best wheels {}, {}R, 10 colpi", shapeName(shape), wheels),
+        [&] { return plainSearchAmbate(formula, request); }, [&] { return searchAmbate(request); });
+  };
+  for (const Shape shape : {Shape::OneNumber, Shape::TwoOneWheel})
+    for (const int wheels : {1, 2, 3}) bench(shape, wheels);
+  for (const int wheels : {1, 2}) bench(Shape::TwoTwoWheels, wheels);
+}
+
+// The hits of so many ambate in the colpi after the cases, as their verification lists them.
+std::vector<CompanionRow> hitRows(const Archive& archive, const AmbataRequest& played, int ambate, WheelSet wheels) {
+  std::vector<CompanionRow> rows;
+  for (const int caseDraw : played.cases)
+    for (int draw = caseDraw + 1; draw <= std::min(caseDraw + played.colpi, played.lastDraw); ++draw)
+      for (int w = 0; w < kWheels; ++w)
+        if (holds(wheels, w))
+          for (int k = 1; k <= kPositions; ++k)
+            for (int ambata = 1; ambata <= ambate; ++ambata)
+              if (archive.number(draw, w, k) == ambata * 17) rows.push_back({caseDraw, draw, {ambata * 17}});
+  return rows;
+}
+
+void benchCompanions(const Archive& archive) {
+  for (const auto& [wheels, ambate] : {std::pair{WheelSet{1}, 1}, std::pair{kEveryWheel, 5}})
+    for (const Shape shape : {Shape::OneNumber, Shape::TwoOneWheel, Shape::ThreeOneWheel, Shape::TwoTwoWheels}) {
+      CompanionRequest request;
+      request.archive = &archive;
+      request.rows = hitRows(archive, ambataRequest(archive, 10), ambate, wheels);
+      request.wheels = wheels;
+      request.allowedFix = everyFix();
+      request.withFix = true;
+      request.keep = kKeep;
+      const PlainFormula formula = formulaOf(shape);
+      request.formula = formulaInput(formula);
+      compare(
+          fmt::format("ambi {}, {}, {} hits", shapeName(shape), wheels == 1 ? "1 wheel" : "11 wheels",
+                      request.rows.size()),
+          [&] { return plainSearchCompanions(formula, request); }, [&] { return searchCompanions(request); });
+    }
+}
+
+void benchPureNumbers(const Archive& archive) {
+  const AmbataRequest request = ambataRequest(archive, 10);
+  const auto bench = [&](const std::string& name, const std::vector<WheelSet>& sets) {
+    compare(
+        name, [&] { return plainCountNumbers(archive, request.cases, request.colpi, request.lastDraw, sets); },
+        [&] { return countNumbers(archive, request.cases, request.colpi, request.lastDraw, sets); });
+  };
+  bench("pure numbers, 11 wheels", {kEveryWheel});
+  for (const int wheels : {1, 2, 3}) bench(fmt::format("pure numbers, {}R", wheels), wheelSetsOf(wheels));
+}
+
+}  // namespace
+}  // namespace trv5
+
+int main() {
+  using namespace trv5;
+  std::mt19937 rng(1939);
+  const Archive archive = randomArchive(rng, 2000);
+  fmt::print("{:<44} {:>11} {:>10} {:>8}\n", "50 cases, with fix, 100 rows", "plain (ms)", "engine", "ratio");
+  benchAmbate(archive);
+  benchBestWheels(archive);
+  benchCompanions(archive);
+  benchPureNumbers(archive);
+  return g_allAgree ? 0 : 1;
+}
