@@ -19,6 +19,10 @@ namespace trv5 {
 class ProgramWorld {
  public:
   ProgramWorld();
+  /// The screens go first: they speak to the program.
+  ~ProgramWorld() { shell.forgetScreens(); }
+  ProgramWorld(const ProgramWorld&) = delete;
+  ProgramWorld& operator=(const ProgramWorld&) = delete;
 
   /// Writes DbTRV5.mdb with these parameters.
   void makeMain(const std::vector<ParameterRow>& parameters);
