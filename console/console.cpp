@@ -1,0 +1,202 @@
+#include "console/console.h"
+
+#include <QApplication>
+#include <QWidget>
+
+#include "console/arguments.h"
+#include "console/grid_dump.h"
+#include "core/dates.h"
+#include "core/errors.h"
+#include "core/text.h"
+#include "screens/container_window.h"
+#include "screens/help_viewer.h"
+#include "screens/run_place.h"
+
+namespace trv5 {
+namespace {
+
+std::string jsonText(const std::string& text) {
+  return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string failure(const std::string& error) {
+  return "{\"ok\":false,\"error\":" + jsonText(error) + "}";
+}
+
+// The fields of an object, to stand beside "ok".
+std::string fields(const nlohmann::json& object) {
+  const std::string text = object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  return text.substr(1, text.size() - 2);
+}
+
+}  // namespace
+
+Console::Console(Theme& theme) : m_theme(theme) {}
+
+Console::~Console() = default;
+
+const std::map<std::string, Console::Command, std::less<>>& Console::commands() {
+  static const std::map<std::string, Command, std::less<>> known = {{"start", &Console::start},
+                                                                    {"click", &Console::click},
+                                                                    {"dblclick", &Console::doubleClick},
+                                                                    {"set", &Console::set},
+                                                                    {"get", &Console::get},
+                                                                    {"cell", &Console::cell},
+                                                                    {"edit", &Console::edit},
+                                                                    {"dump", &Console::dump},
+                                                                    {"list", &Console::list},
+                                                                    {"answer", &Console::queueAnswer},
+                                                                    {"messages", &Console::messages},
+                                                                    {"clipboard", &Console::clipboard},
+                                                                    {"key", &Console::key},
+                                                                    {"clock", &Console::clock},
+                                                                    {"focus", &Console::focus},
+                                                                    {"screens", &Console::screens},
+                                                                    {"shot", &Console::shot},
+                                                                    {"quit", &Console::quit}};
+  return known;
+}
+
+std::string Console::answer(const std::string& line) {
+  const std::string_view content = trimmed(line);
+  if (content.empty() || content.front() == '#' || content == "\r") return {};
+  try {
+    const nlohmann::json parsed = nlohmann::json::parse(line, nullptr, false);
+    if (!parsed.is_array() || parsed.empty() || !parsed[0].is_string())
+      throw LineError("la riga non è una lista JSON che comincia con un comando");
+    const auto command = commands().find(parsed[0].get<std::string>());
+    if (command == commands().end()) throw LineError("comando sconosciuto: " + parsed[0].get<std::string>());
+    const std::string result = (this->*command->second)(parsed);
+    tidy();
+    return result.empty() ? "{\"ok\":true}" : "{\"ok\":true," + result + "}";
+  } catch (const std::exception& error) {
+    m_understood = false;
+    tidy();
+    return failure(error.what());
+  }
+}
+
+// What an operation has closed is destroyed after it; a program that has ended has no screens.
+void Console::tidy() {
+  if (m_shell == nullptr) return;
+  if (m_shell->ended()) m_shell->closeAll();
+  m_shell->purge();
+}
+
+ConsoleShell& Console::shell() const {
+  if (m_shell == nullptr) throw LineError("il programma non è avviato: manca la riga start");
+  if (m_shell->ended()) throw LineError("il programma è terminato");
+  return *m_shell;
+}
+
+Console::Target Console::screenOf(const Arguments& line) const {
+  const std::string name = textArgument(line, 1);
+  Target found;
+  found.form = shell().form(name);
+  found.screen = shell().widget(name);
+  // The help is no screen of the program, but can be looked at like one.
+  if (HelpViewer* const help = shell().helpViewer(); help != nullptr && help->objectName() == qs(name))
+    found.screen = help;
+  if (found.screen == nullptr) {
+    if (!shell().hasScreen(name)) throw LineError("schermata sconosciuta: " + name);
+    throw LineError("la schermata non è aperta: " + name);
+  }
+  return found;
+}
+
+Console::Target Console::target(const Arguments& line) const {
+  Target found = screenOf(line);
+  const std::string name = textArgument(line, 2);
+  if (found.form != nullptr) found.control = found.form->find(name);
+  found.widget = found.screen->findChild<QWidget*>(qs(name));
+  if (found.control == nullptr && found.widget == nullptr)
+    throw LineError("controllo sconosciuto: " + name + " su " + textArgument(line, 1));
+  return found;
+}
+
+Console::Target Console::enabledTarget(const Arguments& line) const {
+  Target found = target(line);
+  const bool enabled =
+      (found.control == nullptr || found.control->enabled()) && (found.widget == nullptr || found.widget->isEnabled());
+  if (!enabled) throw LineError("controllo disabilitato: " + textArgument(line, 2));
+  return found;
+}
+
+std::string Console::start(const Arguments& line) {
+  const std::filesystem::path folder = textArgument(line, 1);
+  m_shell.reset();
+  m_program.reset();
+  m_shell = std::make_unique<ConsoleShell>(m_script);
+  m_program = std::make_unique<Program>(*m_shell, folder, shippedModel());
+  m_shell->attach(*m_program);
+  try {
+    m_shell->show("INIZIO");
+  } catch (const UserError& error) {
+    // The program ends with the system's message.
+    m_shell->message({.text = error.what(), .title = "TRV5", .icon = Icon::Critical});
+    m_shell->quit();
+    throw;
+  }
+  return {};
+}
+
+std::string Console::dump(const Arguments& line) {
+  const auto* const grid = dynamic_cast<const GridControl*>(target(line).control);
+  if (grid == nullptr) throw LineError("non è una griglia: " + textArgument(line, 2));
+  return dumpFields(grid->grid());
+}
+
+std::string Console::list(const Arguments& line) {
+  const Control* const control = target(line).control;
+  if (const auto* const combo = dynamic_cast<const Combo*>(control)) return fields({{"items", combo->items()}});
+  if (const auto* const lines = dynamic_cast<const LineList*>(control)) return fields({{"items", lines->lines()}});
+  throw LineError("non è una lista: " + textArgument(line, 2));
+}
+
+std::string Console::queueAnswer(const Arguments& line) {
+  using Answer = Script::Answer;
+  static const std::map<std::string, Answer, std::less<>> kinds = {{"yes", Answer::Yes},   {"no", Answer::No},
+                                                                   {"ok", Answer::Ok},     {"cancel", Answer::Cancel},
+                                                                   {"text", Answer::Text}, {"file", Answer::File}};
+  const auto kind = kinds.find(textArgument(line, 1));
+  if (kind == kinds.end()) throw LineError("risposta sconosciuta: " + textArgument(line, 1));
+  const bool carries = kind->second == Answer::Text || kind->second == Answer::File;
+  const std::string text = carries ? textArgument(line, 2) : std::string();
+  m_script.answers.push_back({kind->second, text});
+  return {};
+}
+
+std::string Console::messages(const Arguments&) {
+  return fields({{"messages", std::exchange(m_script.messages, nlohmann::json::array())}});
+}
+
+std::string Console::clipboard(const Arguments& line) {
+  if (line.size() > 1) shell().setClipboard(textArgument(line, 1));
+  return fields({{"text", shell().clipboard()}});
+}
+
+std::string Console::clock(const Arguments& line) {
+  const std::string text = textArgument(line, 1);
+  const auto part = [&](std::size_t from, std::size_t length) {
+    return numberOf(std::string_view(text).substr(from, length));
+  };
+  if (text.size() != 19 || text[2] != '/' || text[5] != '/' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
+    throw LineError("il momento va scritto GG/MM/AAAA HH:MM:SS");
+  const DateTime moment{part(6, 4), part(3, 2), part(0, 2), part(11, 2), part(14, 2), part(17, 2)};
+  if (!dayOf(moment.year, moment.month, moment.day) || moment.hour > 23 || moment.minute > 59 || moment.second > 59)
+    throw LineError("il momento non esiste: " + text);
+  m_script.clock = moment;
+  return {};
+}
+
+std::string Console::screens(const Arguments&) {
+  if (m_shell == nullptr || m_shell->ended()) return fields({{"screens", nlohmann::json::array()}});
+  return fields({{"screens", m_shell->openScreens()}});
+}
+
+std::string Console::quit(const Arguments&) {
+  m_quit = true;
+  return {};
+}
+
+}  // namespace trv5

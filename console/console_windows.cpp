@@ -1,0 +1,116 @@
+// The lines that need the windows as the user sees them: keys, focus, pictures.
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTest>
+
+#include "console/arguments.h"
+#include "console/console.h"
+#include "console/key_names.h"
+#include "core/errors.h"
+#include "screens/container_window.h"
+#include "screens/theme.h"
+
+namespace trv5 {
+namespace {
+
+// Lets the windows catch up: sizes, grids, paintings.
+void settle() {
+  for (int i = 0; i < 3; ++i) {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+  }
+}
+
+// Where a script wants to see a screen; sizes are those of its window.
+struct Looks {
+  QSize size;
+  double scale = 1;
+  std::optional<bool> dark;
+  std::optional<double> points;
+};
+
+Looks looksOf(const nlohmann::json& line) {
+  Looks looks;
+  if (line.size() < 4) return looks;
+  const nlohmann::json& wanted = line[3];
+  if (!wanted.is_object()) throw LineError("l'aspetto dev'essere un oggetto JSON");
+  for (const auto& [name, value] : wanted.items()) {
+    if (name == "width" && value.is_number_integer())
+      looks.size.setWidth(value.get<int>());
+    else if (name == "height" && value.is_number_integer())
+      looks.size.setHeight(value.get<int>());
+    else if (name == "scale" && value.is_number())
+      looks.scale = value.get<double>();
+    else if (name == "dark" && value.is_boolean())
+      looks.dark = value.get<bool>();
+    else if (name == "points" && value.is_number())
+      looks.points = value.get<double>();
+    else
+      throw LineError("aspetto sconosciuto: " + name);
+  }
+  return looks;
+}
+
+}  // namespace
+
+std::string Console::key(const Arguments& line) {
+  const Target found = enabledTarget(line);
+  if (found.widget == nullptr) throw LineError("il controllo non è sullo schermo: " + textArgument(line, 2));
+  const std::optional<KeyPress> press = keyOf(textArgument(line, 3));
+  if (!press) throw LineError("tasto sconosciuto: " + textArgument(line, 3));
+  QWidget* const window = found.widget->window();
+  window->activateWindow();
+  settle();
+  found.widget->setFocus(Qt::OtherFocusReason);
+  settle();
+  // An operation behind the key may close the widget's window: it dies only after this.
+  QTest::sendKeyEvent(QTest::Click, found.widget, press->key, press->text, press->modifiers);
+  settle();
+  return {};
+}
+
+std::string Console::focus(const Arguments&) {
+  settle();
+  std::string screen, control;
+  for (QWidget* widget = QApplication::focusWidget(); widget != nullptr; widget = widget->parentWidget()) {
+    const std::string name = widget->objectName().toStdString();
+    if (shell().widget(name) == widget) {
+      screen = name;
+      break;
+    }
+    if (control.empty() && !name.empty() && !name.starts_with("qt_")) control = name;
+  }
+  return "\"screen\":" + nlohmann::json(screen).dump() + ",\"control\":" + nlohmann::json(control).dump();
+}
+
+std::string Console::shot(const Arguments& line) {
+  QWidget* const screen = screenOf(line).screen;
+  const std::string path = textArgument(line, 2);
+  const Looks looks = looksOf(line);
+  QWidget* const window = screen->window();
+  const QSize usual = window->size();
+  const bool dark = m_theme.dark();
+  const double points = m_theme.chosenPoints();
+  if (looks.dark) m_theme.setDark(*looks.dark);
+  if (looks.points) m_theme.setBasePoints(*looks.points);
+  QSize size = looks.size;
+  if (size.width() <= 0) size.setWidth(usual.width());
+  if (size.height() <= 0) size.setHeight(usual.height());
+  window->resize(size);
+  settle();
+
+  QImage image(screen->size() * looks.scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(looks.scale);
+  image.fill(toColor(m_theme.colours().window));
+  screen->render(&image);
+  const bool saved = image.save(qs(path), "PNG");
+
+  m_theme.setDark(dark);
+  m_theme.setBasePoints(points);
+  window->resize(usual);
+  if (!saved) throw LineError("l'immagine non può essere scritta: " + path);
+  return {};
+}
+
+}  // namespace trv5
