@@ -173,5 +173,29 @@ TEST(PublishedHistory, GivesBackRandomDrawsWhateverTheOrderOfTheLines) {
   }
 }
 
+TEST(PublishedHistory, ReadsOrReportsWhateverBytesALineHolds) {
+  const std::string good = "2020/01/02\tBA\t1\t22\t33\t44\t90\n";
+  const std::string bytes("\0\t\n\r /0129BARM-\xEF\xFF", 18);
+  for (unsigned seed = 1; seed <= 3000; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 rng(seed);
+    std::string text = good + good;
+    for (unsigned change = 1 + static_cast<unsigned>(rng() % 4); change > 0; --change)
+      text[rng() % text.size()] = bytes[rng() % bytes.size()];
+    const PublishedHistory history = readPublishedHistory(text);
+    const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
+    int before = 0;
+    for (const LineFault& fault : history.faults) {
+      EXPECT_GT(fault.line, before);
+      EXPECT_LE(fault.line, lines);
+      EXPECT_FALSE(fault.reason.empty());
+      before = fault.line;
+    }
+    for (const Draw& draw : history.draws)
+      for (const auto& wheel : draw.numbers)
+        for (const int number : wheel) EXPECT_LE(number, 90);
+  }
+}
+
 }  // namespace
 }  // namespace trv5
