@@ -1,7 +1,9 @@
 // The lines that need the windows as the user sees them: keys, focus, pictures.
+#include <fmt/format.h>
+
 #include <QApplication>
 #include <QImage>
-#include <QPainter>
+#include <QScreen>
 #include <QTest>
 
 #include "console/arguments.h"
@@ -52,6 +54,12 @@ Looks looksOf(const nlohmann::json& line) {
   return looks;
 }
 
+const QScreen* screenOfScale(double scale) {
+  for (const QScreen* const screen : QGuiApplication::screens())
+    if (qFuzzyCompare(screen->devicePixelRatio(), scale)) return screen;
+  throw LineError(fmt::format("scala sconosciuta: {}", scale));
+}
+
 }  // namespace
 
 std::string Console::key(const Arguments& line) {
@@ -79,8 +87,10 @@ std::string Console::focus(const Arguments&) {
       screen = name;
       break;
     }
-    if (control.empty() && !name.empty() && !name.starts_with("qt_")) control = name;
+    if (control.empty() && !name.empty()) control = name;
   }
+  // Widgets have names that are nobody's control.
+  if (const Form* const form = shell().form(screen); form != nullptr && form->find(control) == nullptr) control.clear();
   return "\"screen\":" + nlohmann::json(screen).dump() + ",\"control\":" + nlohmann::json(control).dump();
 }
 
@@ -90,6 +100,8 @@ std::string Console::shot(const Arguments& line) {
   const Looks looks = looksOf(line);
   QWidget* const window = screen->window();
   const QSize usual = window->size();
+  const QPoint place = window->pos();
+  const QScreen* const at = screenOfScale(looks.scale);
   const bool dark = m_theme.dark();
   const double points = m_theme.chosenPoints();
   if (looks.dark) m_theme.setDark(*looks.dark);
@@ -97,17 +109,15 @@ std::string Console::shot(const Arguments& line) {
   QSize size = looks.size;
   if (size.width() <= 0) size.setWidth(usual.width());
   if (size.height() <= 0) size.setHeight(usual.height());
+  // The offscreen platform has a screen for each scale, side by side.
+  window->move(at->geometry().topLeft());
   window->resize(size);
   settle();
-
-  QImage image(screen->size() * looks.scale, QImage::Format_RGB32);
-  image.setDevicePixelRatio(looks.scale);
-  image.fill(toColor(m_theme.colours().window));
-  screen->render(&image);
-  const bool saved = image.save(qs(path), "PNG");
+  const bool saved = screen->grab().toImage().convertToFormat(QImage::Format_RGB32).save(qs(path), "PNG");
 
   m_theme.setDark(dark);
   m_theme.setBasePoints(points);
+  window->move(place);
   window->resize(usual);
   if (!saved) throw LineError("l'immagine non può essere scritta: " + path);
   return {};

@@ -38,6 +38,13 @@ constexpr RailRow kRail[] = {{"Command4", "workbench", "Sommativi1"},
                              {"Command3", "extra", "FunzioniAggiuntive"},
                              {"Command7", "analysis", "DiDiSO"}};
 
+// Lines of the panel don't reach its edges.
+QWidget* inset(QWidget* line) {
+  auto* const holder = holding(row({line}));
+  holder->layout()->setContentsMargins(10, 0, 10, 0);
+  return holder;
+}
+
 QLabel* quietLabel(const QString& text) {
   return Kit::text(text, Type::Small);
 }
@@ -79,14 +86,8 @@ void ContainerWindow::buildArea() {
   });
 
   m_empty = new QWidget(m_area);
-  auto* const picture = new QLabel;
-  picture->setAlignment(Qt::AlignCenter);
-  const auto draw = [picture] {
-    picture->setPixmap(iconPixmap(QStringLiteral("workbench"), 56, picture->devicePixelRatio(), IconInk::Quiet));
-  };
-  draw();
-  connect(&Theme::current(), &Theme::changed, picture, draw);
-  QLabel* const title = Kit::text(QStringLiteral("Nessuna finestra aperta"), Type::Large);
+  auto* const picture = new IconLabel(icon(QStringLiteral("workbench"), IconInk::Quiet), 56);
+  QLabel* const title = Kit::text(QStringLiteral("Nessuna finestra aperta"), Type::Lead);
   QLabel* const hint = Kit::text(
       QStringLiteral(
           "Premi <b>TRV5</b> per costruire un metodo, <b>Gestione archivio</b> per aggiornare le estrazioni."),
@@ -94,7 +95,8 @@ void ContainerWindow::buildArea() {
   for (QLabel* const label : {title, hint}) label->setAlignment(Qt::AlignCenter);
   auto* const layout = new QVBoxLayout(m_empty);
   layout->addStretch();
-  for (QLabel* const label : {picture, title, hint}) layout->addWidget(label);
+  layout->addWidget(picture, 0, Qt::AlignHCenter);
+  for (QLabel* const label : {title, hint}) layout->addWidget(label);
   layout->addStretch();
 }
 
@@ -114,7 +116,7 @@ void ContainerWindow::buildRail() {
   connect(m_menu, &QToolButton::clicked, this, &ContainerWindow::toggleRail);
   m_otherButtons.push_back(m_menu);
   layout->addWidget(m_menu);
-  layout->addWidget(separator(Qt::Horizontal));
+  layout->addWidget(inset(separator(Qt::Horizontal)));
   for (const RailRow& row : kRail) {
     auto* const button = new RailButton(QLatin1String(row.icon));
     button->setCheckable(true);
@@ -125,7 +127,7 @@ void ContainerWindow::buildRail() {
     m_buttons.push_back({button, row.screen});
     layout->addWidget(button);
   }
-  layout->addWidget(separator(Qt::Horizontal));
+  layout->addWidget(inset(separator(Qt::Horizontal)));
 
   m_wideOnly = new QWidget;
   auto* const wide = new QVBoxLayout(m_wideOnly);
@@ -133,13 +135,14 @@ void ContainerWindow::buildRail() {
   buildStatusBlock(*wide);
   m_draws = m_kit.grid("FG5", {.samples = {QString(), QStringLiteral("8888"), QStringLiteral("88/88/8888"),
                                            QStringLiteral("888"), QStringLiteral("88")},
-                               .folded = {0}});
+                               .folded = {0},
+                               .atEnd = true});
   wide->addWidget(m_draws, 1);
   layout->addWidget(m_wideOnly, 1);
   m_filler = new QWidget;
   layout->addWidget(m_filler, 1);
 
-  layout->addWidget(separator(Qt::Horizontal));
+  layout->addWidget(inset(separator(Qt::Horizontal)));
   m_bottom = new QBoxLayout(QBoxLayout::LeftToRight);
   m_bottom->setSpacing(0);
   for (const RailRow& row : {RailRow{"Command33", "help", ""}, RailRow{"Command45", "power", ""}}) {
@@ -203,11 +206,11 @@ void ContainerWindow::buildStatusBar() {
   m_status = quietLabel(QStringLiteral("Pronto"));
   m_status->setContentsMargins(8, 0, 0, 0);
   statusBar()->addWidget(m_status, 1);
-  statusBar()->addPermanentWidget(m_lastDate);
-  statusBar()->addPermanentWidget(m_lastIndex);
   QProgressBar* const bar = m_kit.progress("Pb1");
   bar->setFixedWidth(180);
-  statusBar()->addPermanentWidget(bar);
+  QWidget* const right = holding(row({m_lastDate, Piece::space(), m_lastIndex, Piece::space(), bar}));
+  right->layout()->setContentsMargins(0, 0, 10, 0);
+  statusBar()->addPermanentWidget(right);
 }
 
 void ContainerWindow::buildKeys() {
@@ -322,11 +325,11 @@ void ContainerWindow::takeAway(QWidget& screen) {
   }
 }
 
-void ContainerWindow::restore(const QSettings& settings) {
-  restoreGeometry(settings.value(QStringLiteral("Container/geometria")).toByteArray());
+bool ContainerWindow::restore(const QSettings& settings) {
   m_wideEmpty = settings.value(QStringLiteral("Container/pannello"), true).toBool();
   m_wideOpen = settings.value(QStringLiteral("Container/pannelloConFinestre"), false).toBool();
   setWide(m_anyOpen ? m_wideOpen : m_wideEmpty);
+  return restoreGeometry(settings.value(QStringLiteral("Container/geometria")).toByteArray());
 }
 
 void ContainerWindow::store(QSettings& settings) const {
@@ -340,14 +343,13 @@ void ContainerWindow::resizeEvent(QResizeEvent* event) {
   Theme::edit().setWindowHeight(height());
 }
 
-// The list of draws opens at its end.
 void ContainerWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (m_shownOnce) return;
   m_shownOnce = true;
   layoutParts();
   m_draws->sync();
-  m_draws->scrollToBottom();
+  setFocus();  // no ring before the first key; Tab then starts at the top of the panel
 }
 
 // The cross of the window is FINE; the program then ends by itself.

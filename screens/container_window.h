@@ -36,7 +36,8 @@ class ContainerWindow : public QMainWindow {
   void setOpenScreens(const std::vector<std::string>& names);
   void showStatus(const QString& text);
 
-  void restore(const QSettings& settings);
+  /// False when no place is remembered yet.
+  bool restore(const QSettings& settings);
   void store(QSettings& settings) const;
 
   bool railWide() const { return m_wide; }

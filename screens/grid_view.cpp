@@ -109,6 +109,8 @@ void GridView::followGrid() {
   m_following = false;
   layoutColumns();
   layoutRows();
+  if (m_look.atEnd && m_lastRows != rows) scrollToBottom();
+  m_lastRows = rows;
   viewport()->update();
 }
 
@@ -219,9 +221,11 @@ QSize GridView::minimumSizeHint() const {
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
+  const bool atEnd = m_look.atEnd && verticalScrollBar()->value() == verticalScrollBar()->maximum();
   QTableView::resizeEvent(event);
   layoutColumns();
   layoutRows();
+  if (atEnd) scrollToBottom();
 }
 
 void GridView::changeEvent(QEvent* event) {

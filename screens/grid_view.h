@@ -25,6 +25,7 @@ struct GridLook {
   int minRow = 0, maxRow = 0;        ///< rows stretch with the view between these heights; 0: the theme's row height
   double points = 0;                 ///< size of the cells' font; 0: the base font
   bool fixedHeight = false;          ///< as high as its rows, no scroll bar
+  bool atEnd = false;                ///< opens scrolled to its last row, and stays there when its size changes
   /// The tooltip of a cell, given its place in the grid.
   std::function<QString(int row, int column)> toolTip = {};
 };
@@ -104,6 +105,7 @@ class GridView : public QTableView {
   GridModel* m_model;
   std::set<int> m_hiddenRows;       // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;  // of columns that the user or "Adatta colonne" set
+  int m_lastRows = 0;               // of the model when the view last followed it
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click
   std::pair<int, int> m_pressed{-1, -1};    // cell under the press, grid's counting

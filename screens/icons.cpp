@@ -27,7 +27,8 @@ QPixmap rendered(const QString& name, const QSize& pixels, const QColor& colour)
   pixmap.fill(Qt::transparent);
   QSvgRenderer renderer(drawing(name).replace("#000000", colour.name().toLatin1()));
   QPainter painter(&pixmap);
-  renderer.render(&painter);
+  const int side = qMin(pixels.width(), pixels.height());
+  renderer.render(&painter, QRectF(0, 0, side, side));
   return pixmap;
 }
 
@@ -60,6 +61,7 @@ class LineIcon : public QIconEngine {
   }
   QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal) override {
     const QColor colour = colourOf(m_ink, mode);
+    // Room asked for beyond the square parts the picture from the caption at its right.
     if (m_last.isNull() || m_last.size() != size || m_lastColour != colour) {
       m_last = rendered(m_name, size, colour);
       m_lastColour = colour;
@@ -81,14 +83,18 @@ QIcon icon(const QString& name, IconInk ink) {
   return QIcon(new LineIcon(name, ink));
 }
 
-QPixmap iconPixmap(const QString& name, int size, qreal devicePixelRatio, IconInk ink) {
-  QPixmap pixmap = rendered(name, QSize(size, size) * devicePixelRatio, colourOf(ink, QIcon::Normal));
-  pixmap.setDevicePixelRatio(devicePixelRatio);
-  return pixmap;
-}
-
 QIcon programMark() {
   return QIcon(QStringLiteral(":/screens/icons/mark.svg"));
+}
+
+IconLabel::IconLabel(QIcon shown, int size, QWidget* parent) : QWidget(parent), m_icon(std::move(shown)), m_size(size) {
+  setFixedSize(size, size);
+}
+
+void IconLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  m_icon.paint(&painter, rect());
 }
 
 }  // namespace trv5

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QIcon>
-#include <QPixmap>
 #include <QString>
+#include <QWidget>
 
 namespace trv5 {
 
@@ -13,10 +13,22 @@ enum class IconInk { Text, OnAccent, Danger, Quiet };
 /// asked for and in the colour of the theme of the moment, so it needs no change with the theme.
 QIcon icon(const QString& name, IconInk ink = IconInk::Text);
 
-/// The same as a picture of `size` x `size` logical pixels.
-QPixmap iconPixmap(const QString& name, int size, qreal devicePixelRatio, IconInk ink = IconInk::Text);
-
 /// The program's mark, in its own colours.
 QIcon programMark();
+
+/// An icon by itself, `size` x `size` logical pixels.
+class IconLabel : public QWidget {
+  Q_OBJECT
+ public:
+  IconLabel(QIcon icon, int size, QWidget* parent = nullptr);
+  QSize sizeHint() const override { return {m_size, m_size}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QIcon m_icon;
+  int m_size;
+};
 
 }  // namespace trv5

@@ -17,8 +17,7 @@ namespace trv5 {
 InizioWindow::InizioWindow(Inizio& form) : Screen(form) {
   setWindowIcon(programMark());
 
-  auto* const mark = new QLabel;
-  mark->setPixmap(programMark().pixmap(QSize(92, 92), devicePixelRatio()));
+  auto* const mark = new IconLabel(programMark(), 92);
   auto* const name = new QLabel(QStringLiteral("TRV5 Nerovia Forge V2"));
   QFont font = Theme::current().title();
   font.setPointSizeF(20);
@@ -30,8 +29,7 @@ InizioWindow::InizioWindow(Inizio& form) : Screen(form) {
   QBoxLayout* const head = row({mark, Piece::space(), words, Piece::gap()});
 
   auto* const panel = new Panel;
-  auto* const archive = new QLabel;
-  archive->setPixmap(iconPixmap(QStringLiteral("archive"), 24, devicePixelRatio()));
+  auto* const archive = new IconLabel(icon(QStringLiteral("archive")), 24);
   QLabel* const caption = kit.label("Label5", Type::Hint);
   QLabel* const note = kit.label("Label1", Type::Hint);
   note->setWordWrap(true);
@@ -48,11 +46,11 @@ InizioWindow::InizioWindow(Inizio& form) : Screen(form) {
   lines->setContentsMargins(inner, inner, inner, inner);
   panel->body()->addLayout(lines);
 
-  QPushButton* const proceed = kit.button("Command2", {.kind = Kind::Primary, .icon = "play", .mnemonic = 'P'});
-  QPushButton* const end = kit.button("Command3", {.icon = "power", .mnemonic = 'F'});
-  QPushButton* const help = kit.button("CmDHelp", {.icon = "help", .mnemonic = 'H'});
+  QPushButton* const proceed =
+      kit.button("Command2", {.kind = Kind::Primary, .icon = "play", .mnemonic = 'P', .tall = true});
+  QPushButton* const end = kit.button("Command3", {.icon = "power", .mnemonic = 'F', .tall = true});
+  QPushButton* const help = kit.button("CmDHelp", {.icon = "help", .mnemonic = 'H', .tall = true});
   proceed->setDefault(true);
-  for (QPushButton* const button : {proceed, end, help}) button->setFixedHeight(38);
   proceed->setMinimumWidth(144);
   QBoxLayout* const buttons = row({help, Piece::gap(), end, proceed});
 

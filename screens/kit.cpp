@@ -40,7 +40,7 @@ const char* nameOf(Kind kind) {
 }
 
 void setType(QWidget& widget, Type type) {
-  const char* const names[] = {"base", "small", "hint", "title", "large"};
+  const char* const names[] = {"base", "small", "hint", "title", "large", "lead"};
   widget.setProperty("type", QLatin1String(names[static_cast<int>(type)]));
 }
 
@@ -61,12 +61,13 @@ void dress(QAbstractButton& button, const ButtonLook& look) {
   button.setProperty("kind", QLatin1String(nameOf(look.kind)));
   if (look.iconOnly) button.setProperty("iconOnly", true);
   if (look.strong) button.setProperty("strong", true);
+  if (look.tall) button.setProperty("tall", true);
   if (look.icon == nullptr) return;
   const IconInk ink = look.kind == Kind::Primary  ? IconInk::OnAccent
                       : look.kind == Kind::Danger ? IconInk::Danger
                                                   : IconInk::Text;
   button.setIcon(icon(QLatin1String(look.icon), ink));
-  button.setIconSize({18, 18});
+  button.setIconSize(look.iconOnly ? QSize(18, 18) : QSize(22, 18));
 }
 
 QPushButton* Kit::button(std::string_view name, ButtonLook look) {

@@ -50,10 +50,11 @@ struct ButtonLook {
   char mnemonic = 0;           ///< letter of the caption that is underlined; unique within the screen
   bool iconOnly = false;       ///< no caption: it becomes the accessible name
   bool strong = false;         ///< caption in weight 600
+  bool tall = false;           ///< higher than the others: what starts or ends the program
 };
 
 /// How a label is written.
-enum class Type { Base, Small, Hint, Title, Large };
+enum class Type { Base, Small, Hint, Title, Large, Lead };
 
 class Kit {
  public:

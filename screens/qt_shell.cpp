@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QScreen>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -106,9 +107,10 @@ QtShell::Open& QtShell::open(const ScreenEntry& entry) {
 void QtShell::place(Open& opened) {
   QWidget& widget = *opened.widget;
   if (opened.entry->place == Place::Window) {
-    widget.resize(opened.entry->size);
+    widget.resize(opened.entry->size.boundedTo(widget.screen()->availableSize()));
+    bool maximised = false;
     if (auto* const window = qobject_cast<ContainerWindow*>(&widget)) {
-      if (m_settings) window->restore(*m_settings);
+      maximised = m_settings != nullptr && !window->restore(*m_settings);
       connect(window, &ContainerWindow::helpWanted, this, &QtShell::helpOfFront);
       connect(window, &ContainerWindow::nextScreenWanted, this, &QtShell::showNext);
       connect(window, &ContainerWindow::closedByUser, this, [this](const QString& name) { close(name.toStdString()); });
@@ -116,7 +118,7 @@ void QtShell::place(Open& opened) {
         if (!m_opening && find(name.toStdString()) != nullptr) toFront(name.toStdString());
       });
     }
-    widget.show();
+    maximised ? widget.showMaximized() : widget.show();
     return;
   }
   if (ContainerWindow* const window = shellWindow()) {

@@ -1,6 +1,7 @@
 #include "screens/rail_button.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "screens/icons.h"
 #include "screens/theme.h"
@@ -31,7 +32,7 @@ void RailButton::setMark(Mark mark) {
 }
 
 QSize RailButton::sizeHint() const {
-  const int height = Theme::current().control() + 14;
+  const int height = std::max(44, Theme::current().control() + 14);
   if (!m_wide) return {52, height};
   const QFontMetrics metrics(m_large ? Theme::current().large() : font());
   return {52 + metrics.horizontalAdvance(text()) + 12, height};

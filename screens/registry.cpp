@@ -28,7 +28,7 @@ ScreenEntry loaded(ScreenEntry made) {
 std::vector<ScreenEntry> allScreens() {
   return {
       loaded<Inizio>(entry<Inizio, InizioWindow>("INIZIO", Place::Window, {860, 400})),
-      loaded<Container>(entry<Container, ContainerWindow>("Container", Place::Window, {1366, 768})),
+      loaded<Container>(entry<Container, ContainerWindow>("Container", Place::Window, {1920, 1080})),
   };
 }
 

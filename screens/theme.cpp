@@ -202,6 +202,9 @@ QString Theme::styleSheet() const {
   // The inside of a control: its height without the border of 1 px on both sides.
   const std::pair<const char*, QString> sizes[] = {
       {"@inner", QString::number(control() - 2)},
+      {"@tallFocus", QString::number(control() + 4)},
+      {"@tall", QString::number(control() + 6)},
+      {"@chip", m_dark ? QStringLiteral("#FFFFFF") : QStringLiteral("transparent")},
       {"@focus", QString::number(control() - 4)},
       {"@small", QString::number(smallPoints())},
       {"@large", QString::number(largePoints())},
