@@ -18,15 +18,17 @@ ColpiWindow windowAfter(int caseDraw, int colpi, int lastDraw) {
 }
 
 void addDrawn(const Archive& archive, const ColpiWindow& window, WheelSet wheels, DrawnNumbers& drawn) {
-  // The wheels of a draw lie in one piece: all of them are one run of 55 numbers.
+  const int draws = window.last - window.first + 1;
+  if (draws <= 0) return;
+  const std::uint8_t* first = archive.wheelOf(window.first, 0);
+  // The wheels of a draw lie in one piece, and so do the draws.
   if ((wheels & kEveryWheel) == kEveryWheel) {
-    for (int draw = window.first; draw <= window.last; ++draw)
-      addNumbers(archive.wheelOf(draw, 0), Archive::kDrawBytes, drawn);
+    addNumbers(first, draws * Archive::kDrawBytes, drawn);
     return;
   }
-  for (int draw = window.first; draw <= window.last; ++draw)
-    for (int w = 0; w < kWheels; ++w)
-      if (holds(wheels, w)) addNumbers(archive.wheelOf(draw, w), kPositions, drawn);
+  for (int w = 0; w < kWheels; ++w)
+    if (holds(wheels, w))
+      for (int i = 0; i < draws; ++i) addNumbers(first + i * Archive::kDrawBytes + w * kPositions, kPositions, drawn);
 }
 
 }  // namespace trv5

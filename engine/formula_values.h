@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -32,39 +33,57 @@ class FormulaValues {
     const std::uint8_t* a = part(0, set);
     switch (m_kind) {
       case Kind::One:
-        for (std::size_t i = 0; i < m_rowLength; ++i) out[i] = a[i];
+        std::copy_n(a, m_rowLength, out);
         return;
       case Kind::Sum:
-        addInto(out, a, part(1, set));
+        add(out, a, part(1, set));
         return;
       case Kind::SumOfThree:
-        addInto(out, a, part(1, set));
-        addInto(out, out, part(2, set));
+        add(out, a, part(1, set), part(2, set));
         return;
-      case Kind::Product: {
-        const std::uint8_t* b = part(1, set);
-        for (std::size_t i = 0; i < m_rowLength; ++i)
-          out[i] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(a[i] * b[i]) % 90);
+      case Kind::Product:
+        multiply(out, a, part(1, set));
         return;
-      }
     }
+  }
+
+  /// The numbers of the formula with a fix 1..90, as residues: 0 is 90.
+  void numbers(std::size_t index, int fix, std::uint8_t* out) const {
+    values(index, out);
+    const auto added = static_cast<std::uint8_t>(fix % 90);
+    for (std::size_t i = 0; i < m_rowLength; ++i) out[i] = sum90(out[i], added);
   }
 
  private:
   enum class Kind : std::uint8_t { One, Sum, SumOfThree, Product };
+  // Rows don't overlap and are whole steps long: with both known the loops are a few instructions a step.
+  using Row = const std::uint8_t* __restrict;
+  using NewRow = std::uint8_t* __restrict;
 
   const std::uint8_t* part(std::size_t element, const ElementSet& set) const {
     const std::size_t drawn = set.wheels[element] * std::size_t{kPositions} + set.positions[element] - 1U;
     return &m_parts[(element * Archive::kDrawBytes + drawn) * m_rowLength];
   }
 
-  // Both parts are below 90, so the sum fits a byte; less 90 it wraps around to something greater where it was below.
-  [[gnu::always_inline]] void addInto(std::uint8_t* out, const std::uint8_t* a, const std::uint8_t* b) const {
-    for (std::size_t i = 0; i < m_rowLength; ++i) {
-      const auto sum = static_cast<std::uint8_t>(a[i] + b[i]);
-      const auto less = static_cast<std::uint8_t>(sum - 90);
-      out[i] = sum < less ? sum : less;
-    }
+  // Two parts below 90 make a sum that fits a byte; less 90 it wraps around to something greater where it was below.
+  [[gnu::always_inline]] static std::uint8_t sum90(std::uint8_t a, std::uint8_t b) {
+    const auto sum = static_cast<std::uint8_t>(a + b);
+    const auto less = static_cast<std::uint8_t>(sum - 90);
+    return sum < less ? sum : less;
+  }
+
+  [[gnu::always_inline]] void add(NewRow out, Row a, Row b) const {
+    for (std::size_t at = 0; at < m_rowLength; at += kStep)
+      for (std::size_t i = at; i < at + kStep; ++i) out[i] = sum90(a[i], b[i]);
+  }
+  [[gnu::always_inline]] void add(NewRow out, Row a, Row b, Row c) const {
+    for (std::size_t at = 0; at < m_rowLength; at += kStep)
+      for (std::size_t i = at; i < at + kStep; ++i) out[i] = sum90(sum90(a[i], b[i]), c[i]);
+  }
+  [[gnu::always_inline]] void multiply(NewRow out, Row a, Row b) const {
+    for (std::size_t at = 0; at < m_rowLength; at += kStep)
+      for (std::size_t i = at; i < at + kStep; ++i)
+        out[i] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(a[i] * b[i]) % 90);
   }
 
   Kind m_kind = Kind::One;

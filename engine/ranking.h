@@ -28,6 +28,11 @@ class Ranking {
 
   /// Rows with a lower count can't enter. At least 1.
   int threshold() const { return m_threshold; }
+  /// The last of the kept rows, once there are as many as are kept: a row with its count has to come before it. Until
+  /// then a row behind all others.
+  Row last() const { return m_last == kNoLast ? Row{0, 0xFFFF, 0xFF, 0xFFF} : rowOf(m_last); }
+  /// Changes whenever the threshold or the last row does.
+  int age() const { return m_age; }
 
   void offer(const Row& row) {
     const std::uint64_t key = keyOf(row);
@@ -49,6 +54,7 @@ class Ranking {
  private:
   // Count in the upper 28 bits, as its complement, then wheel set in 16, fix in 8, element set in 12 bits.
   static constexpr std::uint64_t kMostCount = (1U << 28U) - 1U;
+  static constexpr std::uint64_t kNoLast = ~std::uint64_t{0};
 
   static std::uint64_t keyOf(const Row& row) {
     const auto bits = [](int value) { return static_cast<std::uint64_t>(value); };
@@ -67,12 +73,14 @@ class Ranking {
     m_rows.resize(m_keep);
     m_last = m_rows.back();
     m_threshold = rowOf(m_last).count;
+    ++m_age;
   }
 
   std::size_t m_keep, m_room;
   std::vector<std::uint64_t> m_rows;
-  std::uint64_t m_last = ~std::uint64_t{0};
+  std::uint64_t m_last = kNoLast;
   int m_threshold = 1;
+  int m_age = 0;
 };
 
 }  // namespace trv5

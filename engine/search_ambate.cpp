@@ -15,7 +15,7 @@ NumberFlags fixesOf(const AmbataRequest& request) {
 }
 
 // How often each number was drawn after each case: on all wheels together, or wheel by wheel where wheel sets have to
-// be put together.
+// be put together. After the votes have been made of it, number 0 stands for 90 too.
 class DrawnAfterCases {
  public:
   explicit DrawnAfterCases(const AmbataRequest& request)
@@ -34,6 +34,30 @@ class DrawnAfterCases {
   }
 
   // How many different numbers of each residue were drawn: 0 and 90 are two.
+  VoteRings votes(const std::vector<WheelSet>& wheelSets) {
+    VoteRings rings = m_wheelByWheel ? VoteRings(wheelsByNumber(), wheelSets) : VoteRings(weights());
+    for (DrawnNumbers& drawn : m_drawn) drawn[0] += drawn[90];
+    return rings;
+  }
+
+  // How often the numbers of `residues`, one for each case of the rings, were drawn on a wheel set.
+  int presences(const VoteRings& rings, const std::vector<std::uint8_t>& residues, WheelSet set) const {
+    std::uint32_t times = 0;
+    const auto add = [&](std::size_t wheelsOfCase, std::size_t wheel) {
+      const std::vector<int>& cases = rings.cases();
+      for (std::size_t i = 0; i < cases.size(); ++i)
+        times += m_drawn[static_cast<std::size_t>(cases[i]) * wheelsOfCase + wheel][residues[i]];
+    };
+    if (m_wheelByWheel) {
+      for (int w = 0; w < kWheels; ++w)
+        if (holds(set, w)) add(kWheels, static_cast<std::size_t>(w));
+    } else {
+      add(1, 0);
+    }
+    return static_cast<int>(times);
+  }
+
+ private:
   std::vector<ResidueWeights> weights() const {
     std::vector<ResidueWeights> weights(m_drawn.size());
     for (std::size_t i = 0; i < m_drawn.size(); ++i) {
@@ -54,19 +78,6 @@ class DrawnAfterCases {
     return wheels;
   }
 
-  // How often the numbers of a residue were drawn after a case on a wheel set of the request.
-  std::uint32_t times(std::size_t index, WheelSet set, std::size_t residue) const {
-    if (!m_wheelByWheel) return timesIn(m_drawn[index], residue);
-    std::uint32_t times = 0;
-    for (int w = 0; w < kWheels; ++w)
-      if (holds(set, w)) times += timesIn(wheel(index, w), residue);
-    return times;
-  }
-
- private:
-  static std::uint32_t timesIn(const DrawnNumbers& drawn, std::size_t residue) {
-    return residue == 0 ? drawn[0] + drawn[90] : drawn[residue];
-  }
   DrawnNumbers& wheel(std::size_t index, int w) { return m_drawn[index * kWheels + static_cast<std::size_t>(w)]; }
   const DrawnNumbers& wheel(std::size_t index, int w) const {
     return m_drawn[index * kWheels + static_cast<std::size_t>(w)];
@@ -81,9 +92,8 @@ class DrawnAfterCases {
 std::vector<Candidate> searchAmbate(const AmbataRequest& request) {
   if (request.keep < 1 || request.wheelSets.empty()) return {};
   const FormulaInput& formula = request.formula;
-  const DrawnAfterCases drawn(request);
-  const VoteRings rings =
-      request.wheelSets.size() == 1 ? VoteRings(drawn.weights()) : VoteRings(drawn.wheelsByNumber(), request.wheelSets);
+  DrawnAfterCases drawn(request);
+  const VoteRings rings = drawn.votes(request.wheelSets);
   std::vector<int> draws;
   for (const int index : rings.cases()) draws.push_back(request.cases[static_cast<std::size_t>(index)]);
   const FormulaValues values(*request.archive, formula, draws,
@@ -92,20 +102,15 @@ std::vector<Candidate> searchAmbate(const AmbataRequest& request) {
   rankVotes(rings, values, fixesOf(request), ranking);
 
   std::vector<Candidate> candidates;
-  std::vector<std::uint8_t> row(values.rowLength());
+  std::vector<std::uint8_t> residues(values.rowLength());
   for (const Ranking::Row& found : ranking.rows()) {
     const auto set = static_cast<std::size_t>(found.set);
     Candidate candidate{values.set(set), found.fix, found.count, 0, found.wheelSet};
     if (request.repeatsAtZeroGetLost && found.fix == 90) {
       candidate.pres = found.count;
     } else {
-      const WheelSet wheels = request.wheelSets[static_cast<std::size_t>(found.wheelSet)];
-      values.values(set, row.data());
-      std::uint32_t pres = 0;
-      for (std::size_t i = 0; i < draws.size(); ++i)
-        pres += drawn.times(static_cast<std::size_t>(rings.cases()[i]), wheels,
-                            static_cast<std::size_t>(row[i] + found.fix) % 90);
-      candidate.pres = static_cast<int>(pres);
+      values.numbers(set, found.fix, residues.data());
+      candidate.pres = drawn.presences(rings, residues, request.wheelSets[static_cast<std::size_t>(found.wheelSet)]);
     }
     candidates.push_back(candidate);
   }

@@ -86,13 +86,13 @@ std::vector<Candidate> searchCompanions(const CompanionRequest& request) {
   rankVotes(rings, values, request.withFix ? request.allowedFix : fixes, ranking);
 
   std::vector<Candidate> candidates;
-  std::vector<std::uint8_t> row(values.rowLength());
+  std::vector<std::uint8_t> residues(values.rowLength());
   for (const Ranking::Row& found : ranking.rows()) {
     const auto set = static_cast<std::size_t>(found.set);
-    values.values(set, row.data());
+    values.numbers(set, found.fix, residues.data());
     std::uint32_t pres = 0;
     for (std::size_t i = 0; i < draws.size(); ++i)
-      pres += votes.pres[static_cast<std::size_t>(rings.cases()[i])][static_cast<std::size_t>(row[i] + found.fix) % 90];
+      pres += votes.pres[static_cast<std::size_t>(rings.cases()[i])][residues[i]];
     candidates.push_back({values.set(set), found.fix, found.count, static_cast<int>(pres), 0});
   }
   return candidates;

@@ -26,12 +26,17 @@ constexpr std::size_t kWords = kBytes / 8;
 // may touch without leaving anything there.
 constexpr std::size_t kMostPlanes = 36;
 
-// Three rows of one weight make one of the same weight and one of the double. `sum` may be one of the three.
+// Three rows of one weight make one of the same weight and one of the double. The third may be the `sum` itself: it
+// comes in last, so that sums that follow each other wait for one operation only.
 TRV5_PART_OF_LOOP void addRows(Lanes& twice, Lanes& sum, const Lanes& a, const Lanes& b, const Lanes& c) {
   const Lanes either = a ^ b;
   const Lanes both = a & b;
   twice = both | (either & c);
   sum = either ^ c;
+}
+
+TRV5_PART_OF_LOOP bool empty(const Lanes& bits) {
+  return (bits[0] | bits[1] | bits[2] | bits[3]) == 0;
 }
 
 // The rows of two element sets, one in each half of the register; one wheel set.
@@ -61,19 +66,19 @@ TRV5_PART_OF_LOOP void addEight(const Rows& rows, std::size_t i, Lanes& p0, Lane
   Lanes a, b, twos, moreTwos, fours, moreFours;
   rows.load(a, i);
   rows.load(b, i + 1);
-  addRows(twos, p0, p0, a, b);
+  addRows(twos, p0, a, b, p0);
   rows.load(a, i + 2);
   rows.load(b, i + 3);
-  addRows(moreTwos, p0, p0, a, b);
-  addRows(fours, p1, p1, twos, moreTwos);
+  addRows(moreTwos, p0, a, b, p0);
+  addRows(fours, p1, twos, moreTwos, p1);
   rows.load(a, i + 4);
   rows.load(b, i + 5);
-  addRows(twos, p0, p0, a, b);
+  addRows(twos, p0, a, b, p0);
   rows.load(a, i + 6);
   rows.load(b, i + 7);
-  addRows(moreTwos, p0, p0, a, b);
-  addRows(moreFours, p1, p1, twos, moreTwos);
-  addRows(eights, p2, p2, fours, moreFours);
+  addRows(moreTwos, p0, a, b, p0);
+  addRows(moreFours, p1, twos, moreTwos, p1);
+  addRows(eights, p2, fours, moreFours, p2);
 }
 
 TRV5_PART_OF_LOOP void ripple(Lanes* planes, std::size_t from, std::size_t count, Lanes& carry) {
@@ -93,7 +98,7 @@ TRV5_PART_OF_LOOP void addLevel(const Rows& rows, std::size_t cases, Lanes* plan
     Lanes eights, moreEights, carry;
     addEight(rows, i, p0, p1, p2, eights);
     addEight(rows, i + 8, p0, p1, p2, moreEights);
-    addRows(carry, p3, p3, eights, moreEights);
+    addRows(carry, p3, eights, moreEights, p3);
     ripple(planes, 4, count, carry);
   }
   if (i + 8 <= cases) {
@@ -108,7 +113,7 @@ TRV5_PART_OF_LOOP void addLevel(const Rows& rows, std::size_t cases, Lanes* plan
     Lanes a, b, twos;
     rows.load(a, i);
     rows.load(b, i + 1);
-    addRows(twos, p0, p0, a, b);
+    addRows(twos, p0, a, b, p0);
     const Lanes fours = p1 & twos;
     p1 ^= twos;
     const Lanes eights = p2 & fours;
@@ -127,16 +132,22 @@ TRV5_PART_OF_LOOP void addLevel(const Rows& rows, std::size_t cases, Lanes* plan
 // highest plane.
 struct Counters {
   Lanes planes[kMostPlanes];
-  std::size_t highest;  // plane
-  int start = 0;
+  Lanes cleared[kMostPlanes];  // what they start with
+  std::size_t highest;         // plane
+  int start = -1;
 
   explicit Counters(int mostVotes)
       : planes{},
+        cleared{},
         highest(static_cast<std::size_t>(std::bit_width(static_cast<unsigned>(std::max(mostVotes, 1) - 1)))) {}
 
   TRV5_PART_OF_LOOP void clear(int threshold) {
-    start = (1 << highest) - threshold;
-    for (std::size_t j = 0; j <= highest; ++j) planes[j] = Lanes{} - static_cast<std::uint64_t>(start >> j & 1);
+    const int wanted = (1 << highest) - threshold;
+    if (wanted != start) {
+      start = wanted;
+      for (std::size_t j = 0; j <= highest; ++j) cleared[j] = Lanes{} - static_cast<std::uint64_t>(start >> j & 1);
+    }
+    for (std::size_t j = 0; j <= highest; ++j) planes[j] = cleared[j];
   }
 
   // All levels of a ring, `levelOf(l)` giving the rows of level l.
@@ -151,9 +162,15 @@ struct Counters {
     }
   }
 
-  TRV5_PART_OF_LOOP bool reached(const Lanes& looked, Lanes& bits) const {
-    bits = planes[highest] & looked;
-    return (bits[0] | bits[1] | bits[2] | bits[3]) != 0;
+  // The counters that enter the ranking: those above the threshold, and of those at the threshold, where the lower
+  // planes are empty, the ones that may still tie.
+  TRV5_PART_OF_LOOP bool entering(const Lanes& allowed, const Lanes& tying, Lanes& bits) const {
+    bits = planes[highest] & allowed;
+    if (empty(bits)) return false;
+    Lanes above = tying;
+    for (std::size_t j = 0; j < highest; ++j) above |= planes[j];
+    bits &= above;
+    return !empty(bits);
   }
 
   // The count of one counter.
@@ -164,16 +181,69 @@ struct Counters {
   }
 };
 
-// The residues of the fixes that count: the votes for fix d stand d residues behind V.
-std::array<bool, 90> residuesOf(const NumberFlags& fixes) {
-  std::array<bool, 90> residues{};
-  for (std::size_t fix = 1; fix <= 90; ++fix) residues[fix % 90] = fixes[fix];
-  return residues;
-}
-
 int fixOf(std::size_t residue) {
   return residue == 0 ? 90 : static_cast<int>(residue);
 }
+
+// Bits for all counters of an element set, residue by residue as in a run; filled up to whole registers.
+class RunBits {
+ public:
+  explicit RunBits(const VoteRings& rings)
+      : m_residueBits(rings.narrow() ? 1 : rings.residueBytes() * 8),
+        m_wheelSets(rings.wheelSets()),
+        m_words((90 * m_residueBits / 64 + kWords) / kWords * kWords) {}
+
+  std::size_t words() const { return m_words.size(); }
+  std::uint64_t word(std::size_t at) const { return m_words[at]; }
+  bool any() const {
+    return std::any_of(m_words.begin(), m_words.end(), [](std::uint64_t word) { return word != 0; });
+  }
+
+  // The counters of the fixes flagged.
+  void allow(const NumberFlags& fixes) {
+    for (std::size_t r = 0; r < 90; ++r)
+      if (fixes[static_cast<std::size_t>(fixOf(r))]) set(r, m_wheelSets);
+  }
+
+  // The counters of `allowed` that come before the last row, if the counts are equal.
+  void tie(const RunBits& allowed, const Ranking::Row& last) {
+    std::fill(m_words.begin(), m_words.end(), 0);
+    const auto before = static_cast<std::size_t>(last.wheelSet);
+    for (std::size_t r = 0; r < 90; ++r) set(r, std::min(fixOf(r) < last.fix ? before + 1 : before, m_wheelSets));
+    for (std::size_t i = 0; i < m_words.size(); ++i) m_words[i] &= allowed.m_words[i];
+  }
+
+ private:
+  // The first wheel sets of a residue.
+  void set(std::size_t residue, std::size_t wheelSets) {
+    for (std::size_t bit = residue * m_residueBits, left = wheelSets; left > 0;) {
+      const std::size_t now = std::min(left, 64 - bit % 64);
+      m_words[bit / 64] |= ~std::uint64_t{0} >> (64 - now) << bit % 64;
+      bit += now;
+      left -= now;
+    }
+  }
+
+  std::size_t m_residueBits, m_wheelSets;
+  std::vector<std::uint64_t> m_words;
+};
+
+// Which counters can enter the ranking as it stands.
+struct Entrance {
+  RunBits allowed, tying;
+  int age = -1;
+
+  Entrance(const VoteRings& rings, const NumberFlags& fixes) : allowed(rings), tying(rings) { allowed.allow(fixes); }
+
+  // False when none can any more, because the last row has the highest count there is.
+  bool open(const Ranking& ranking, int mostVotes) {
+    if (age != ranking.age()) {
+      age = ranking.age();
+      tying.tie(allowed, ranking.last());
+    }
+    return ranking.threshold() < mostVotes || tying.any();
+  }
+};
 
 // The copy of the ring in which residue V begins a byte, and that byte: the three lower bits of V and the five upper
 // ones change places.
@@ -181,9 +251,9 @@ TRV5_PART_OF_LOOP void findRuns(std::uint8_t* run, std::size_t length) {
   for (std::size_t i = 0; i < length; ++i) run[i] = static_cast<std::uint8_t>(run[i] << 5 | run[i] >> 3);
 }
 
-void offerTwoSets(const Counters& counters, const Lanes& reached, std::size_t set, Ranking& ranking) {
+void offerTwoSets(const Counters& counters, const Lanes& entering, std::size_t set, Ranking& ranking) {
   for (std::size_t word = 0; word < kWords; ++word)
-    for (std::uint64_t bits = reached[word]; bits != 0; bits &= bits - 1) {
+    for (std::uint64_t bits = entering[word]; bits != 0; bits &= bits - 1) {
       const int bit = std::countr_zero(bits);
       const int fix = fixOf(word % 2 * 64 + static_cast<std::size_t>(bit));
       ranking.offer({counters.count(word, bit), 0, fix, static_cast<int>(set + word / 2)});
@@ -192,15 +262,10 @@ void offerTwoSets(const Counters& counters, const Lanes& reached, std::size_t se
 
 TRV5_FOR_EACH_PROCESSOR
 void rankOneWheelSet(const VoteRings& rings, const FormulaValues& values, const NumberFlags& fixes, Ranking& ranking) {
-  std::array<std::uint64_t, 2> looked{};
-  const std::array<bool, 90> residues = residuesOf(fixes);
-  for (std::size_t r = 0; r < residues.size(); ++r) looked[r / 64] |= std::uint64_t{residues[r]} << r % 64;
-  const Lanes pairLooked = {looked[0], looked[1], looked[0], looked[1]};
-  const Lanes singleLooked = {looked[0], looked[1], 0, 0};
-
+  Entrance entrance(rings, fixes);
   std::vector<std::uint8_t> first(values.rowLength()), second(values.rowLength());
   Counters counters(rings.mostVotes());
-  for (std::size_t set = 0; set < values.sets(); set += 2) {
+  for (std::size_t set = 0; set < values.sets() && entrance.open(ranking, rings.mostVotes()); set += 2) {
     const bool pair = set + 1 < values.sets();
     values.values(set, first.data());
     values.values(pair ? set + 1 : set, second.data());
@@ -208,50 +273,33 @@ void rankOneWheelSet(const VoteRings& rings, const FormulaValues& values, const 
     findRuns(second.data(), second.size());
     counters.clear(ranking.threshold());
     counters.add(rings, TwoSets{rings.level(0), first.data(), second.data()});
-    Lanes reached;
-    if (counters.reached(pair ? pairLooked : singleLooked, reached)) offerTwoSets(counters, reached, set, ranking);
+    const std::uint64_t low = entrance.allowed.word(0), high = entrance.allowed.word(1);
+    const std::uint64_t lowTying = entrance.tying.word(0), highTying = entrance.tying.word(1);
+    const Lanes allowed = {low, high, pair ? low : 0, pair ? high : 0};
+    const Lanes tying = {lowTying, highTying, lowTying, highTying};
+    Lanes entering;
+    if (counters.entering(allowed, tying, entering)) offerTwoSets(counters, entering, set, ranking);
   }
 }
 
-// 32 bytes of the 90 rows of an element set, and in them the bits of allowed fixes.
-struct Piece {
-  std::size_t offset;
-  std::array<std::uint64_t, kWords> looked;
-};
-
-std::vector<Piece> piecesOf(const VoteRings& rings, const NumberFlags& fixes) {
-  const std::array<bool, 90> residues = residuesOf(fixes);
-  const std::size_t residueBits = rings.residueBytes() * 8;
-  std::vector<Piece> pieces;
-  for (std::size_t offset = 0; offset < residues.size() * rings.residueBytes(); offset += kBytes) {
-    Piece piece{offset, {}};
-    bool any = false;
-    for (std::size_t i = 0; i < kBytes * 8; ++i) {
-      const std::size_t bit = offset * 8 + i;
-      if (bit / residueBits >= residues.size() || !residues[bit / residueBits]) continue;
-      if (bit % residueBits >= rings.wheelSets()) continue;
-      piece.looked[i / 64] |= std::uint64_t{1} << i % 64;
-      any = true;
-    }
-    if (any) pieces.push_back(piece);
-  }
-  return pieces;
-}
-
-void offerPiece(const Counters& counters, const Lanes& reached, std::size_t offset, std::size_t residueBits,
+void offerPiece(const Counters& counters, const Lanes& entering, std::size_t firstWord, std::size_t residueBits,
                 std::size_t set, Ranking& ranking) {
   for (std::size_t word = 0; word < kWords; ++word)
-    for (std::uint64_t bits = reached[word]; bits != 0; bits &= bits - 1) {
+    for (std::uint64_t bits = entering[word]; bits != 0; bits &= bits - 1) {
       const int bit = std::countr_zero(bits);
-      const std::size_t at = offset * 8 + word * 64 + static_cast<std::size_t>(bit);
+      const std::size_t at = (firstWord + word) * 64 + static_cast<std::size_t>(bit);
       const int wheelSet = static_cast<int>(at % residueBits);
       ranking.offer({counters.count(word, bit), wheelSet, fixOf(at / residueBits), static_cast<int>(set)});
     }
 }
 
+TRV5_PART_OF_LOOP void lanesAt(const RunBits& bits, std::size_t word, Lanes& lanes) {
+  lanes = Lanes{bits.word(word), bits.word(word + 1), bits.word(word + 2), bits.word(word + 3)};
+}
+
 TRV5_FOR_EACH_PROCESSOR
 void rankWheelSets(const VoteRings& rings, const FormulaValues& values, const NumberFlags& fixes, Ranking& ranking) {
-  const std::vector<Piece> pieces = piecesOf(rings, fixes);
+  Entrance entrance(rings, fixes);
   const auto residueBytes = static_cast<std::uint32_t>(rings.residueBytes());
   std::vector<std::uint8_t> run(values.rowLength());
   std::vector<std::uint32_t> ringOfCase(values.rowLength()), begin(values.rowLength());
@@ -260,13 +308,16 @@ void rankWheelSets(const VoteRings& rings, const FormulaValues& values, const Nu
   for (std::size_t set = 0; set < values.sets(); ++set) {
     values.values(set, run.data());
     for (std::size_t i = 0; i < begin.size(); ++i) begin[i] = ringOfCase[i] + run[i] * residueBytes;
-    for (const Piece& piece : pieces) {
+    for (std::size_t word = 0; word < entrance.allowed.words(); word += kWords) {
+      if (!entrance.open(ranking, rings.mostVotes())) return;
+      Lanes allowed, tying, entering;
+      lanesAt(entrance.allowed, word, allowed);
+      if (empty(allowed)) continue;
       counters.clear(ranking.threshold());
-      counters.add(rings, PieceOfSet{rings.level(0) + piece.offset, begin.data()});
-      const Lanes looked = {piece.looked[0], piece.looked[1], piece.looked[2], piece.looked[3]};
-      Lanes reached;
-      if (counters.reached(looked, reached))
-        offerPiece(counters, reached, piece.offset, std::size_t{residueBytes} * 8, set, ranking);
+      counters.add(rings, PieceOfSet{rings.level(0) + word * 8, begin.data()});
+      lanesAt(entrance.tying, word, tying);
+      if (counters.entering(allowed, tying, entering))
+        offerPiece(counters, entering, word, std::size_t{residueBytes} * 8, set, ranking);
     }
   }
 }
