@@ -366,9 +366,9 @@ void GridView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   const int rows = visibleRowCount();
   int bottom = rows > 0 ? verticalHeader()->length() - verticalHeader()->offset() : 0;
-  if (rows < m_look.slots) {
+  if (rows < m_look.freePlaces) {
     const int height = verticalHeader()->defaultSectionSize();
-    for (int i = rows; i < m_look.slots; ++i) {
+    for (int i = rows; i < m_look.freePlaces; ++i) {
       bottom += height;
       painter.fillRect(0, bottom - 1, viewport()->width(), 1, toColor(Theme::current().colours().line));
     }

@@ -16,7 +16,7 @@ struct GridLook {
   /// The widest text of each column ("88/88/8888"); for columns beyond the list, or an empty entry, the heading with
   /// its padding blanks.
   std::vector<QString> samples = {};
-  int slots = 0;                     ///< free places drawn as faint lines below the last row
+  int freePlaces = 0;                ///< free places drawn as faint lines below the last row
   std::vector<int> folded = {};      ///< columns out of sight as long as they are empty in all rows
   std::vector<int> heavyAfter = {};  ///< columns followed by a heavier line
   bool pad = false;                  ///< cells are keys: click, drag to paint, Space; no row frame, no selection

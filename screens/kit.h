@@ -1,6 +1,19 @@
 #pragma once
 
+// A layout puts the widgets that the kit makes side by side: it needs to know them all.
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QString>
+#include <QTabWidget>
+#include <QToolButton>
 #include <initializer_list>
 #include <string_view>
 #include <vector>
@@ -9,20 +22,6 @@
 #include "screens/click_label.h"
 #include "screens/grid_view.h"
 #include "screens/layouts.h"
-
-class QAbstractButton;
-class QCalendarWidget;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QListWidget;
-class QProgressBar;
-class QPushButton;
-class QRadioButton;
-class QScrollBar;
-class QTabWidget;
-class QToolButton;
 
 namespace trv5 {
 
