@@ -64,10 +64,7 @@ FileBox GridView::exportBox(const char* title, const char* filter, const char* e
 
 void GridView::fitColumns() {
   sync();
-  const QFontMetrics cells(font()), headings(horizontalHeader()->font());
-  QFont boldFont = font();
-  boldFont.setWeight(QFont::DemiBold);
-  const QFontMetrics bold(boldFont);
+  const QFontMetrics cells(m_cellFont), bold(m_strongFont), headings(m_headingFont);
   const std::vector<int> rows = visibleRows(m_grid);
   for (const int column : visibleColumns(m_grid)) {
     if (isColumnHidden(column)) continue;

@@ -51,8 +51,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   if (cell.text.empty()) return;
   // A merged block has its text once, and again at the top of the view when the block begins above it.
   if (m_view.continuesAbove(row, column) && index.row() != m_view.rowAt(0)) return;
-  QFont font = option.font;
-  if (cell.bold || (m_view.look().pad && cell.back != kWhite)) font.setWeight(QFont::DemiBold);
+  const bool strong = cell.bold || (m_view.look().pad && cell.back != kWhite);
+  const QFont& font = m_view.cellFont(strong);
   painter->setFont(font);
   painter->setPen(toColor(m_view.isEnabled() ? readableInk(cell.fore, behind) : kLightColours.disabled));
   QString text = qs(cell.text);
@@ -97,22 +97,23 @@ void GridHeading::paintSection(QPainter* painter, const QRect& rect, int logical
   if (sparse()) return;
   painter->fillRect(rect.right(), rect.top(), 1, rect.height() - 1, toColor(c.line));
   const QRect inside = rect.adjusted(1, 0, -1, -1);
-  painter->setFont(font());
+  painter->setFont(m_view.headingFont());
   painter->setPen(toColor(c.headingText));
   const QString text = model()->headerData(logicalIndex, Qt::Horizontal).toString();
   painter->drawText(inside, Qt::AlignCenter | Qt::TextSingleLine,
-                    fontMetrics().elidedText(text, Qt::ElideRight, inside.width()));
+                    QFontMetrics(m_view.headingFont()).elidedText(text, Qt::ElideRight, inside.width()));
 }
 
 void GridHeading::paintEvent(QPaintEvent* event) {
   QHeaderView::paintEvent(event);
   if (!sparse() || count() == 0) return;
+  const QFontMetrics metrics(m_view.headingFont());
   int widest = 0;
   for (int i = 0; i < count(); ++i)
-    widest = std::max(widest, fontMetrics().horizontalAdvance(model()->headerData(i, Qt::Horizontal).toString()));
+    widest = std::max(widest, metrics.horizontalAdvance(model()->headerData(i, Qt::Horizontal).toString()));
   const int step = std::max(1, (widest + 8) / std::max(1, sectionSize(0)) + 1);
   QPainter painter(viewport());
-  painter.setFont(font());
+  painter.setFont(m_view.headingFont());
   painter.setPen(toColor(Theme::current().colours().headingText));
   for (int i = 0; i < count(); i += step) {
     const QRect room(sectionViewportPosition(i), 0, sectionSize(i) * step, height() - 1);

@@ -62,12 +62,16 @@ void GridView::setLook(GridLook look) {
 
 void GridView::followTheme() {
   const Theme& theme = Theme::current();
-  QFont font = theme.base();
-  if (m_look.points > 0) font.setPointSizeF(m_look.points);
-  setFont(font);
-  horizontalHeader()->setFont(theme.small(true));
+  // Kept here: a style sheet may give the widgets themselves other fonts than asked for.
+  m_cellFont = theme.base();
+  if (m_look.points > 0) m_cellFont.setPointSizeF(m_look.points);
+  m_strongFont = m_cellFont;
+  m_strongFont.setWeight(QFont::DemiBold);
+  m_headingFont = theme.small(true);
   horizontalHeader()->setFixedHeight(theme.heading());
-  verticalHeader()->setDefaultSectionSize(std::max(theme.row(), QFontMetrics(font).height() + 2));
+  // A strip of keys stands among buttons and lists, as high as they are.
+  const int row = m_look.pad && m_look.fixedHeight ? theme.control() - 2 * frameWidth() : theme.row();
+  verticalHeader()->setDefaultSectionSize(std::max(row, QFontMetrics(m_cellFont).height() + 2));
   if (m_look.fixedHeight) setFixedHeight(minimumSizeHint().height());
   updateGeometry();
   layoutColumns();
@@ -129,7 +133,7 @@ std::pair<int, int> GridView::columnSpan(int column) const {
 }
 
 int GridView::naturalWidth(int column) const {
-  const QFontMetrics cells(font()), headings(horizontalHeader()->font());
+  const QFontMetrics cells(m_cellFont), headings(m_headingFont);
   int width = cells.horizontalAdvance(u'8');
   const QString heading = m_grid.headingRows() > 0 ? qs(m_grid.text(0, column)) : QString();
   const QString sample = static_cast<std::size_t>(column) < m_look.samples.size()
@@ -145,6 +149,13 @@ int GridView::naturalWidth(int column) const {
   return width + Theme::current().unit() + 4;
 }
 
+int GridView::evenWidth() const {
+  int width = 0;
+  for (int column = 0; column < m_model->columnCount(); ++column)
+    if (!isColumnHidden(column)) width = std::max(width, naturalWidth(column));
+  return width;
+}
+
 void GridView::layoutColumns() {
   std::vector<int> columns;
   for (int column = 0; column < m_model->columnCount(); ++column)
@@ -156,7 +167,7 @@ void GridView::layoutColumns() {
   std::vector<int> widths;
   if (m_look.even) {
     const int count = static_cast<int>(columns.size());
-    const int least = naturalWidth(columns.front());
+    const int least = evenWidth();
     for (int i = 0; i < count; ++i) widths.push_back(std::max(least, room * (i + 1) / count - room * i / count));
   } else {
     int total = 0, free = 0;  // free: of columns whose width nobody set
@@ -189,7 +200,7 @@ int GridView::visibleRowCount() const {
 void GridView::layoutRows() {
   const int rows = visibleRowCount();
   if (m_look.maxRow <= 0 || rows <= 0) return;
-  const int least = std::max(m_look.minRow, m_look.minColumn > 0 ? 1 : fontMetrics().height() + 2);
+  const int least = std::max(m_look.minRow, m_look.minColumn > 0 ? 1 : QFontMetrics(m_cellFont).height() + 2);
   const int room = std::clamp(viewport()->height(), rows * least, rows * std::max(least, m_look.maxRow));
   int i = 0;
   for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -202,8 +213,9 @@ void GridView::layoutRows() {
 
 QSize GridView::sizeHint() const {
   int width = 2 * frameWidth();
+  const int even = m_look.even ? evenWidth() : 0;
   for (int column = 0; column < m_model->columnCount(); ++column)
-    if (!isColumnHidden(column)) width += naturalWidth(column);
+    if (!isColumnHidden(column)) width += m_look.even ? even : naturalWidth(column);
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
   const int rows = m_look.pad || m_look.fixedHeight ? visibleRowCount() : 8;
   const int row = std::max(m_look.minRow, verticalHeader()->defaultSectionSize());
@@ -214,8 +226,8 @@ QSize GridView::minimumSizeHint() const {
   const QSize hint = sizeHint();
   const bool whole = m_look.pad || m_look.fixedHeight;
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
-  const int row =
-      m_look.minRow > 0 ? std::max(m_look.minRow, fontMetrics().height() + 2) : verticalHeader()->defaultSectionSize();
+  const int row = m_look.minRow > 0 ? std::max(m_look.minRow, QFontMetrics(m_cellFont).height() + 2)
+                                    : verticalHeader()->defaultSectionSize();
   return {whole ? hint.width() : std::min(hint.width(), 120),
           heading + (whole ? visibleRowCount() : 2) * row + 2 * frameWidth()};
 }
@@ -382,8 +394,8 @@ void GridView::paintEmptyText(QPainter& painter, int top) {
   if (text.isEmpty()) return;
   QRect room = viewport()->rect().adjusted(8, 0, -8, 0);
   // Below the free places where two lines find room, else over them.
-  if (viewport()->height() - top >= 2 * fontMetrics().height() + 4) room.setTop(top);
-  painter.setFont(font());
+  if (viewport()->height() - top >= 2 * QFontMetrics(m_cellFont).height() + 4) room.setTop(top);
+  painter.setFont(m_cellFont);
   painter.setPen(toColor(Theme::current().colours().text2));
   painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text);
 }

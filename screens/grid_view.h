@@ -56,6 +56,8 @@ class GridView : public QTableView {
   /// Fits all columns to what they hold now.
   void fitColumns();
 
+  const QFont& cellFont(bool strong) const { return strong ? m_strongFont : m_cellFont; }
+  const QFont& headingFont() const { return m_headingFont; }
   /// Catches up with the grid now, without waiting for the event loop.
   void sync() { m_model->sync(); }
   /// True when the cell shows the same as the one above it in a merged column, so that no line parts them.
@@ -93,6 +95,7 @@ class GridView : public QTableView {
   void layoutColumns();
   void layoutRows();
   int naturalWidth(int column) const;
+  int evenWidth() const;
   int visibleRowCount() const;
   void paintEmptyText(QPainter& painter, int top);
   void paintFrames(QPainter& painter);
@@ -103,6 +106,7 @@ class GridView : public QTableView {
   GridControl& m_grid;
   GridLook m_look;
   GridModel* m_model;
+  QFont m_cellFont, m_strongFont, m_headingFont;
   std::set<int> m_hiddenRows;       // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;  // of columns that the user or "Adatta colonne" set
   int m_lastRows = 0;               // of the model when the view last followed it

@@ -94,7 +94,7 @@ QWidget* Kit::joined(std::initializer_list<std::string_view> names, bool firstSt
     dress(*widget, {.strong = firstStrong && i == 0});
     widget->setFocusPolicy(Qt::StrongFocus);
     const bool first = i == 0, last = i + 1 == names.size();
-    if (!(first && last)) widget->setProperty("pos", QLatin1String(first ? "first" : last ? "last" : "middle"));
+    if (!(first && last)) widget->setProperty("joint", QLatin1String(first ? "first" : last ? "last" : "middle"));
     bind(*widget, control<Button>(name));
     layout->addWidget(widget);
     ++i;

@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QWidget>
 #include <algorithm>
 #include <cassert>
 #include <cmath>
@@ -26,23 +27,30 @@ class UnitStyle : public QProxyStyle {
   UnitStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    // Qt's own dialogs are laid out as Qt means them.
+    const bool own = widget == nullptr || !widget->window()->inherits("QDialog");
     switch (metric) {
       case PM_LayoutHorizontalSpacing:
       case PM_LayoutVerticalSpacing:
-        return Theme::current().unit();
+        if (own) return Theme::current().unit();
+        break;
       case PM_LayoutLeftMargin:
       case PM_LayoutTopMargin:
       case PM_LayoutRightMargin:
       case PM_LayoutBottomMargin:
-        return Theme::current().panelPadding();
+        // Padding belongs to panels and windows; pages and rows inside them begin at the same edge.
+        if (own && widget != nullptr)
+          return widget->property("panel").toBool() || widget->isWindow() ? Theme::current().panelPadding() : 0;
+        break;
       case PM_ButtonIconSize:
       case PM_SmallIconSize:
         return 18;
       case PM_SplitterWidth:
         return Theme::current().unit();
       default:
-        return QProxyStyle::pixelMetric(metric, option, widget);
+        break;
     }
+    return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
