@@ -326,9 +326,13 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
   const QModelIndex index = indexAt(event->pos());
   if (!index.isValid() || event->button() != Qt::LeftButton) return;
   if (index.flags() & Qt::ItemIsEditable)
-    edit(index);
+    openEditor(index);
   else
     doubleClickCell(m_model->gridRow(index.row()), index.column());
+}
+
+void GridView::openEditor(const QModelIndex& index) {
+  if (state() != EditingState) edit(index);
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
@@ -348,7 +352,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     if (!index.isValid())
       event->ignore();
     else if (index.flags() & Qt::ItemIsEditable)
-      edit(index);
+      openEditor(index);
     else
       doubleClickCell(row, index.column());
   } else if (!event->text().isEmpty() && event->text().at(0).isPrint() && event->modifiers() == Qt::NoModifier) {
@@ -359,7 +363,11 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {
+  // Qt makes the first cell current with the focus; the current row is data here, and stays as it is.
+  m_following = true;
   QTableView::focusInEvent(event);
+  if (m_grid.current() < m_grid.headingRows()) selectionModel()->clearCurrentIndex();
+  m_following = false;
   viewport()->update();
 }
 

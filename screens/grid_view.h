@@ -89,6 +89,7 @@ class GridView : public QTableView {
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
  private:
+  void openEditor(const QModelIndex& index);
   void followTheme();
   void followControl();
   void followGrid();

@@ -1,0 +1,93 @@
+#include "screens/grid_print.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "core/errors.h"
+#include "form_world.h"
+#include "screens/grid_export.h"
+#include "support/temp_folder.h"
+
+namespace trv5 {
+namespace {
+
+Grid table(int rows, int columns) {
+  std::string heading = "Prog";
+  for (int column = 1; column < columns; ++column) heading += "|Data esito";
+  Grid grid(heading);
+  grid.setRows(rows + 1);
+  for (int row = 1; row <= rows; ++row)
+    for (int column = 0; column < columns; ++column) grid.setText(row, column, "21/08/2026");
+  return grid;
+}
+
+// Pages that a PDF file really holds.
+int pagesOf(const std::string& pdf) {
+  const std::regex page("/Type\\s*/Page[^s]");
+  return static_cast<int>(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), page), {}));
+}
+
+TEST(GridPrint, AShortTableIsOnePage) {
+  const TempFolder folder;
+  EXPECT_EQ(printToPdf(table(10, 5), {.title = "Ambate"}, folder / "a.pdf"), 1);
+  EXPECT_EQ(pagesOf(readBytes(folder / "a.pdf")), 1);
+}
+
+TEST(GridPrint, ALongTableHasAsManyPagesAsItsRowsNeed) {
+  const TempFolder folder;
+  const int pages = printToPdf(table(500, 5), {}, folder / "a.pdf");
+  EXPECT_EQ(pagesOf(readBytes(folder / "a.pdf")), pages);
+  // A4 across, 9 pt: some 35 rows a page.
+  EXPECT_GT(pages, 10);
+  EXPECT_LT(pages, 20);
+  EXPECT_LT(printToPdf(table(500, 5), {.landscape = false}, folder / "b.pdf"), pages);
+}
+
+TEST(GridPrint, AWideTableGoesOnOverFurtherPagesAndIsNotCutOff) {
+  const TempFolder folder;
+  const int pages = printToPdf(table(10, 60), {}, folder / "a.pdf");
+  EXPECT_GT(pages, 1);
+  EXPECT_EQ(pagesOf(readBytes(folder / "a.pdf")), pages);
+}
+
+TEST(GridPrint, MarginsAreTwentiethsOfAPoint) {
+  const QPageLayout layout = printLayout({.horizontalMargin = 450, .verticalMargin = 400});
+  EXPECT_EQ(layout.orientation(), QPageLayout::Landscape);
+  EXPECT_NEAR(layout.margins(QPageLayout::Point).left(), 22.5, 0.5);
+  EXPECT_NEAR(layout.margins(QPageLayout::Point).top(), 20, 0.5);
+}
+
+TEST(GridPrint, HiddenRowsAreNotPrinted) {
+  const TempFolder folder;
+  Grid grid = table(500, 5);
+  for (int row = 6; row <= 500; ++row) grid.setRowHidden(row, true);
+  EXPECT_EQ(printToPdf(grid, {}, folder / "a.pdf"), 1);
+}
+
+TEST(GridPrint, AFolderThatIsNotThereIsTold) {
+  const TempFolder folder;
+  EXPECT_THROW(printToPdf(table(1, 1), {}, folder / "manca" / "a.pdf"), UserError);
+}
+
+TEST(GridExport, WritesAWorkbookOverTheFormerOneAsAWhole) {
+  const TempFolder folder;
+  writeBytes(folder / "a.xlsx", "prima");
+  Grid grid = table(20, 4);
+  grid.setBack(1, 1, 0x80FF80);
+  grid.setFore(1, 2, 0xFF0000);
+  grid.setBold(1, 3);
+  writeXlsx(folder / "a.xlsx", grid);
+  const std::string bytes = readBytes(folder / "a.xlsx");
+  EXPECT_EQ(bytes.substr(0, 2), "PK");
+  EXPECT_NE(bytes.find("xl/worksheets/sheet1.xml"), std::string::npos);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1) << "nothing is left beside it";
+}
+
+TEST(GridExport, AFolderThatIsNotThereIsTold) {
+  const TempFolder folder;
+  EXPECT_THROW(writeXlsx(folder / "manca" / "a.xlsx", table(1, 1)), UserError);
+}
+
+}  // namespace
+}  // namespace trv5
