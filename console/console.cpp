@@ -108,7 +108,8 @@ Console::Target Console::target(const Arguments& line) const {
   Target found = screenOf(line);
   const std::string name = textArgument(line, 2);
   if (found.form != nullptr) found.control = found.form->find(name);
-  found.widget = found.screen->findChild<QWidget*>(qs(name));
+  found.widget = found.form != nullptr ? shell().widget(textArgument(line, 1), name)
+                                       : found.screen->findChild<QWidget*>(qs(name));
   if (found.control == nullptr && found.widget == nullptr)
     throw LineError("controllo sconosciuto: " + name + " su " + textArgument(line, 1));
   return found;

@@ -13,6 +13,7 @@
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <algorithm>
 
 #include "screens/click_label.h"
@@ -242,14 +243,23 @@ void bind(QListWidget& widget, LineList& control) {
 
 void bind(QProgressBar& widget, Progress& control) {
   widget.setTextVisible(false);
-  auto clock = std::make_shared<QElapsedTimer>();
-  follow(widget, control, [&widget, &control, clock] {
-    // Operations hold the thread: the bar paints itself, some thirty times a second, and no event is run meanwhile.
-    const bool last = control.value() >= control.maximum();
-    if (clock->isValid() && clock->elapsed() < 33 && !last) return;
-    clock->start();
+  const auto show = [&widget, &control] {
     widget.setRange(0, std::max(1, control.maximum()));
     widget.setValue(control.maximum() > 0 ? control.value() : 0);
+  };
+  // Operations hold the thread: the bar paints itself, some thirty times a second, and no event is run meanwhile. What
+  // it skips it shows when the operation is over.
+  auto* const later = new QTimer(&widget);
+  later->setSingleShot(true);
+  QObject::connect(later, &QTimer::timeout, &widget, show);
+  auto clock = std::make_shared<QElapsedTimer>();
+  follow(widget, control, [&widget, show, later, clock] {
+    if (clock->isValid() && clock->elapsed() < 33) {
+      if (!later->isActive()) later->start(0);
+      return;
+    }
+    clock->start();
+    show();
     if (widget.isVisible()) widget.repaint();
   });
 }

@@ -45,6 +45,14 @@ QWidget* inset(QWidget* line) {
   return holder;
 }
 
+bool hasShortcut(const QWidget* screen, const QKeySequence& key) {
+  if (screen == nullptr) return false;
+  const auto shortcuts = screen->findChildren<QShortcut*>();
+  const auto actions = screen->findChildren<QAction*>();
+  return std::any_of(shortcuts.begin(), shortcuts.end(), [&](const QShortcut* s) { return s->key() == key; }) ||
+         std::any_of(actions.begin(), actions.end(), [&](const QAction* a) { return a->shortcut() == key; });
+}
+
 QLabel* quietLabel(const QString& text) {
   return Kit::text(text, Type::Small);
 }
@@ -123,7 +131,8 @@ void ContainerWindow::buildRail() {
     bind(*button, m_form.get<Button>(row.control));
     // Folded, the caption is the tooltip; a tooltip of the button's own says why it is disabled.
     if (button->toolTip().isEmpty()) button->setToolTip(button->text());
-    connect(button, &QToolButton::clicked, button, [button] { button->setChecked(false); });
+    // The click itself toggles the mark; what is open tells it.
+    connect(button, &QToolButton::clicked, this, [this] { setOpenScreens(m_open); });
     m_buttons.push_back({button, row.screen});
     layout->addWidget(button);
   }
@@ -214,11 +223,12 @@ void ContainerWindow::buildStatusBar() {
 }
 
 void ContainerWindow::buildKeys() {
-  const auto key = [this](const QKeySequence& sequence, auto run) {
+  const auto key = [this](const QKeySequence& sequence, auto run) -> QAction* {
     auto* const action = new QAction(this);
     action->setShortcut(sequence);
     connect(action, &QAction::triggered, this, run);
     addAction(action);
+    return action;
   };
   key(Qt::Key_F1, [this] { Q_EMIT helpWanted(); });
   key(Qt::Key_F4, [this] { toggleRail(); });
@@ -227,7 +237,7 @@ void ContainerWindow::buildKeys() {
   key(Qt::CTRL | Qt::Key_Plus, [] { Theme::edit().stepBase(0.5); });
   key(Qt::CTRL | Qt::Key_Equal, [] { Theme::edit().stepBase(0.5); });
   key(Qt::CTRL | Qt::Key_Minus, [] { Theme::edit().stepBase(-0.5); });
-  key(Qt::CTRL | Qt::Key_0, [] { Theme::edit().setBasePoints(0); });
+  m_resetBase = key(Qt::CTRL | Qt::Key_0, [] { Theme::edit().setBasePoints(0); });
 }
 
 void ContainerWindow::toggleRail() {
@@ -256,7 +266,8 @@ void ContainerWindow::layoutParts() {
   m_rail->raise();
 }
 
-void ContainerWindow::setOpenScreens(const std::vector<std::string>& names) {
+void ContainerWindow::setOpenScreens(std::vector<std::string> names) {
+  m_open = names;
   const std::string own = m_form.name();
   const auto isOpen = [&](const std::string& name) {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -268,6 +279,9 @@ void ContainerWindow::setOpenScreens(const std::vector<std::string>& names) {
                           : isOpen(entry.screen) ? RailButton::Mark::Open
                                                  : RailButton::Mark::None);
   }
+  // A screen may have a better use for Ctrl+0 (its tenth tab): while it is in front it has the key.
+  const QWidget* const front = names.empty() ? nullptr : m_area->findChild<QWidget*>(qs(names.back()));
+  m_resetBase->setEnabled(!hasShortcut(front, m_resetBase->shortcut()));
   const bool any = std::any_of(names.begin(), names.end(), [&](const std::string& name) { return name != own; });
   m_empty->setVisible(!any);
   if (any == m_anyOpen) return;
@@ -317,11 +331,7 @@ void ContainerWindow::bringToFront(QWidget& screen) {
 void ContainerWindow::takeAway(QWidget& screen) {
   if (QMdiSubWindow* const window = windowOf(screen)) {
     window->removeEventFilter(this);
-    m_area->removeSubWindow(window);
     window->hide();
-    window->setWidget(nullptr);
-    screen.setParent(nullptr);
-    window->deleteLater();
   }
 }
 

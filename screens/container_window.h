@@ -7,6 +7,7 @@
 #include "core/container.h"
 #include "screens/screen.h"
 
+class QAction;
 class QBoxLayout;
 class QFrame;
 class QLabel;
@@ -30,10 +31,10 @@ class ContainerWindow : public QMainWindow {
   void place(QWidget& screen, const ScreenEntry& entry);
   /// Brings a placed screen to the front.
   void bringToFront(QWidget& screen);
-  /// Takes a screen out of sight; its widget lives on.
+  /// Takes a screen out of sight; it lives on in its frame, and goes with it.
   void takeAway(QWidget& screen);
   /// The open screens, the front one last.
-  void setOpenScreens(const std::vector<std::string>& names);
+  void setOpenScreens(std::vector<std::string> names);
   void showStatus(const QString& text);
 
   /// False when no place is remembered yet.
@@ -79,12 +80,14 @@ class ContainerWindow : public QMainWindow {
   QWidget* m_empty;
   RailButton* m_menu = nullptr;
   std::vector<ScreenButton> m_buttons;
+  std::vector<std::string> m_open;
   std::vector<RailButton*> m_otherButtons;
   QBoxLayout* m_bottom = nullptr;
   QWidget* m_wideOnly = nullptr;  // status block and list of draws
   QWidget* m_filler = nullptr;
   GridView* m_draws = nullptr;
   QLabel *m_status = nullptr, *m_lastDate = nullptr, *m_lastIndex = nullptr;
+  QAction* m_resetBase = nullptr;
   bool m_wide = true, m_anyOpen = false;
   // What the user chose last while no screen is open, and while one is.
   bool m_wideEmpty = true, m_wideOpen = false;

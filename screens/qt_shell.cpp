@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QMdiSubWindow>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
@@ -18,7 +19,10 @@
 namespace trv5 {
 
 QtShell::Open::~Open() {
-  delete widget;  // before the form, which it shows
+  // Before the form, which it shows; with the frame that it stands in.
+  if (widget == nullptr) return;
+  QWidget* const frame = qobject_cast<QMdiSubWindow*>(widget->parentWidget());
+  delete (frame != nullptr ? frame : widget.data());
 }
 
 QtShell::QtShell(std::vector<ScreenEntry> screens) : m_screens(std::move(screens)) {}
@@ -64,6 +68,18 @@ Form* QtShell::form(std::string_view screen) const {
 QWidget* QtShell::widget(std::string_view screen) const {
   const Open* const opened = find(screen);
   return opened == nullptr ? nullptr : opened->widget.data();
+}
+
+QWidget* QtShell::widget(std::string_view screen, std::string_view control) const {
+  const QWidget* const top = widget(screen);
+  if (top == nullptr) return nullptr;
+  const QString name = QString::fromUtf8(control.data(), static_cast<qsizetype>(control.size()));
+  for (QWidget* const found : top->findChildren<QWidget*>(name)) {
+    const QWidget* owner = found->parentWidget();
+    while (owner != top && qobject_cast<const Screen*>(owner) == nullptr) owner = owner->parentWidget();
+    if (owner == top) return found;
+  }
+  return nullptr;
 }
 
 ContainerWindow* QtShell::shellWindow() const {
@@ -156,17 +172,18 @@ void QtShell::close(std::string_view screen) {
   const auto it = std::find_if(m_open.begin(), m_open.end(),
                                [&](const std::unique_ptr<Open>& opened) { return opened->entry->name == screen; });
   if (it == m_open.end()) return;
-  if (QWidget* const widget = (*it)->widget) {
+  // Out of the list first: taking a window away brings another one to the front.
+  Open& closed = *m_closed.emplace_back(std::move(*it));
+  m_open.erase(it);
+  if (QWidget* const widget = closed.widget) {
     if (m_settings) {
       if (auto* const own = qobject_cast<Screen*>(widget)) own->store(*m_settings);
       if (auto* const window = qobject_cast<ContainerWindow*>(widget)) window->store(*m_settings);
       m_settings->setValue(QStringLiteral("carattere"), Theme::current().chosenPoints());
     }
-    if (ContainerWindow* const window = shellWindow(); window != nullptr && window != widget) window->takeAway(*widget);
+    if (ContainerWindow* const window = shellWindow()) window->takeAway(*widget);
     widget->hide();
   }
-  m_closed.push_back(std::move(*it));
-  m_open.erase(it);
   tellShellWindow();
   if (m_purgeAsked) return;
   m_purgeAsked = true;

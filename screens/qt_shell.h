@@ -35,6 +35,9 @@ class QtShell : public QObject, public Shell {
   /// Null when it isn't open.
   Form* form(std::string_view screen) const;
   QWidget* widget(std::string_view screen) const;
+  /// The widget of a control of that screen; null when it has none. Screens that stand inside the shell's window have
+  /// controls of the same names: those aren't meant.
+  QWidget* widget(std::string_view screen, std::string_view control) const;
   /// The window of the help; null as long as none was asked for.
   HelpViewer* helpViewer() const { return m_help.get(); }
   /// Destroys the screens that were closed; not while an operation runs, which may still stand in one of them.

@@ -277,6 +277,7 @@ TEST_F(Bindings, ABarEndsWhereTheOperationEnds) {
   QProgressBar widget;
   bind(widget, control);
   for (int row = 1; row <= 7370; ++row) control.set(row, 7370);
+  settle();
   EXPECT_EQ(widget.maximum(), 7370);
   EXPECT_EQ(widget.value(), 7370);
 }
