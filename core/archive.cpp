@@ -30,6 +30,11 @@ void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
   m_numbers = m_shown;
   for (std::uint8_t& n : m_numbers)
     if (n > 90) n = 0;
+  m_repeats = false;
+  for (std::size_t wheel = 0; wheel < m_numbers.size(); wheel += kPositions)
+    for (std::size_t a = wheel; a < wheel + kPositions && !m_repeats; ++a)
+      for (std::size_t b = a + 1; b < wheel + kPositions; ++b)
+        if (m_numbers[a] != 0 && m_numbers[a] == m_numbers[b]) m_repeats = true;
   m_count = static_cast<int>(rows.size());
 }
 

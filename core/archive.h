@@ -61,6 +61,9 @@ class Archive {
     return &m_numbers[static_cast<std::size_t>(drawIndex * kDrawBytes + wheel * kPositions)];
   }
 
+  /// True when some wheel holds a number twice, which only an entry by hand can bring in.
+  bool repeatsNumbers() const { return m_repeats; }
+
   /// "GG/MM/AAAA"; "" for index 0.
   const std::string& DateEstrazioni(int drawIndex) const { return m_dates.at(static_cast<std::size_t>(drawIndex)); }
   /// Progressive of the draw within its month, from 1; 0 outside the archive.
@@ -76,6 +79,7 @@ class Archive {
   std::vector<int> m_model;
   int m_count = 0;
   int m_last = 0;
+  bool m_repeats = false;
 };
 
 }  // namespace trv5

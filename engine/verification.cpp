@@ -45,20 +45,6 @@ std::vector<int> sortedNumbers(const std::string& cell) {
   return numbers;
 }
 
-Hits hitsOfCase(const Workbench& w, const TableKind& kind, int caseRow, const PlayWindow& window) {
-  const int draw = caseDraw(w, caseRow);
-  if (kind.code == 1) return hitsOfNumbers(w.archive, draw, window, w.NumeriInGioco[static_cast<std::size_t>(caseRow)]);
-  if (kind.code == kLunghettaCode) {
-    NumberFlags inPlay{};
-    for (int n : sortedNumbers(w.Fg15.text(caseRow, kind.numberColumns.front())))
-      inPlay[static_cast<std::size_t>(n)] = true;
-    return hitsOfAll(w.archive, draw, window, inPlay, w.Sorte);
-  }
-  std::vector<std::vector<int>> lists;
-  for (int column : kind.numberColumns) lists.push_back(sortedNumbers(w.Fg15.text(caseRow, column)));
-  return hitsOfSets(w.archive, draw, window, lists);
-}
-
 // Goes through the cases that `plays` lets through: hit rows, counters, marks. Returns the cases that were hit.
 CaseFlags playCases(Workbench& w, const TableKind& kind, const PlayWindow& window, bool marks,
                     const std::function<bool(int caseRow)>& plays) {
@@ -135,6 +121,20 @@ const TableKind& tableKind(int code) {
   for (const TableKind& kind : kinds)
     if (kind.code == code) return kind;
   throw std::logic_error("no such kind of table");
+}
+
+Hits hitsOfCase(const Workbench& w, const TableKind& kind, int caseRow, const PlayWindow& window) {
+  const int draw = caseDraw(w, caseRow);
+  if (kind.code == 1) return hitsOfNumbers(w.archive, draw, window, w.NumeriInGioco[static_cast<std::size_t>(caseRow)]);
+  if (kind.code == kLunghettaCode) {
+    NumberFlags inPlay{};
+    for (int n : sortedNumbers(w.Fg15.text(caseRow, kind.numberColumns.front())))
+      inPlay[static_cast<std::size_t>(n)] = true;
+    return hitsOfAll(w.archive, draw, window, inPlay, w.Sorte);
+  }
+  std::vector<std::vector<int>> lists;
+  for (int column : kind.numberColumns) lists.push_back(sortedNumbers(w.Fg15.text(caseRow, column)));
+  return hitsOfSets(w.archive, draw, window, lists);
 }
 
 void verificaTutte(Workbench& w, const TableKind& kind) {

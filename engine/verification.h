@@ -22,6 +22,9 @@ struct TableKind {
 /// The table of a kind code 1, 2, 3 or 6.
 const TableKind& tableKind(int code);
 
+/// The hits of one case with the numbers in play as `RicavaElementiReali` left them; a lunghetta by `Sorte`.
+Hits hitsOfCase(const Workbench& w, const TableKind& kind, int caseRow, const PlayWindow& window);
+
 /// "Verifica tutte le righe": replays a table as one forecast over all cases, into its hit grid, `FgEv` and the
 /// statistics. Without formulas it does nothing.
 void verificaTutte(Workbench& w, const TableKind& kind);
