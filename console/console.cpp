@@ -31,7 +31,7 @@ std::string fields(const nlohmann::json& object) {
 
 }  // namespace
 
-Console::Console(Theme& theme) : m_theme(theme) {}
+Console::Console(Theme& theme, std::vector<ScreenEntry> screens) : m_theme(theme), m_screens(std::move(screens)) {}
 
 Console::~Console() = default;
 
@@ -108,8 +108,8 @@ Console::Target Console::target(const Arguments& line) const {
   Target found = screenOf(line);
   const std::string name = textArgument(line, 2);
   if (found.form != nullptr) found.control = found.form->find(name);
-  found.widget = found.form != nullptr ? shell().widget(textArgument(line, 1), name)
-                                       : found.screen->findChild<QWidget*>(qs(name));
+  found.widget =
+      found.form != nullptr ? shell().widget(textArgument(line, 1), name) : found.screen->findChild<QWidget*>(qs(name));
   if (found.control == nullptr && found.widget == nullptr)
     throw LineError("controllo sconosciuto: " + name + " su " + textArgument(line, 1));
   return found;
@@ -127,7 +127,7 @@ std::string Console::start(const Arguments& line) {
   const std::filesystem::path folder = textArgument(line, 1);
   m_shell.reset();
   m_program.reset();
-  m_shell = std::make_unique<ConsoleShell>(m_script);
+  m_shell = std::make_unique<ConsoleShell>(m_script, m_screens);
   m_program = std::make_unique<Program>(*m_shell, folder, shippedModel());
   m_shell->attach(*m_program);
   try {

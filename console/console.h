@@ -19,7 +19,7 @@ namespace trv5 {
 /// no place on screen.
 class Console {
  public:
-  explicit Console(Theme& theme);
+  explicit Console(Theme& theme, std::vector<ScreenEntry> screens = allScreens());
   ~Console();
 
   /// The answer to a line, without its end; empty for a line that is passed over.
@@ -69,6 +69,7 @@ class Console {
   static const std::map<std::string, Command, std::less<>>& commands();
 
   Theme& m_theme;
+  std::vector<ScreenEntry> m_screens;
   Script m_script;
   // The program goes after the screens, which show it.
   std::unique_ptr<Program> m_program;

@@ -27,7 +27,7 @@ struct Script {
 class ConsoleShell : public QtShell {
   Q_OBJECT
  public:
-  explicit ConsoleShell(Script& script) : m_script(script) {}
+  ConsoleShell(Script& script, std::vector<ScreenEntry> screens) : QtShell(std::move(screens)), m_script(script) {}
 
   /// True after an operation has ended the program.
   bool ended() const { return m_ended; }

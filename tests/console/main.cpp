@@ -1,0 +1,15 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "screens/theme.h"
+
+// Tests that run the console in their own process need Qt; those that start the program don't mind.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  trv5::Theme theme(app);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
