@@ -97,7 +97,7 @@ void benchAmbate(const Archive& archive) {
 void benchBestWheels(const Archive& archive) {
   const auto bench = [&](Shape shape, int wheels) {
     AmbataRequest request = ambataRequest(archive, 10);
-    request.wheelSets = wheelSetsOf(wheels);
+    request.wheelSets = plainWheelSets(wheels);
     request.repeatsAtZeroGetLost = shape == Shape::OneNumber;
     const PlainFormula formula = formulaOf(shape);
     request.formula = formulaInput(formula);
@@ -138,7 +138,7 @@ void benchPureNumbers(const Archive& archive) {
         [&] { return countNumbers(archive, request.cases, request.colpi, request.lastDraw, sets); });
   };
   bench("pure numbers, 11 wheels", {kEveryWheel});
-  for (const int wheels : {1, 2, 3}) bench(fmt::format("pure numbers, {}R", wheels), wheelSetsOf(wheels));
+  for (const int wheels : {1, 2, 3}) bench(fmt::format("pure numbers, {}R", wheels), plainWheelSets(wheels));
 }
 
 Archive archiveOfDraws(const std::vector<Draw>& draws) {

@@ -38,29 +38,29 @@ void compare(Shape shape, const std::vector<WheelSet>& wheelSets, unsigned first
 }
 
 TEST(BestWheelSearch, OfOneNumberOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, wheelSetsOf(1), 21000);
+  compare(Shape::OneNumber, plainWheelSets(1), 21000);
 }
 
 TEST(BestWheelSearch, OfOneNumberOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, wheelSetsOf(2), 22000);
+  compare(Shape::OneNumber, plainWheelSets(2), 22000);
 }
 
 TEST(BestWheelSearch, OfOneNumberOnThreeWheelsAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, wheelSetsOf(3), 23000);
+  compare(Shape::OneNumber, plainWheelSets(3), 23000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::TwoOneWheel, wheelSetsOf(1), 24000);
-  compare(Shape::TwoOneWheel, wheelSetsOf(2), 25000);
-  compare(Shape::TwoOneWheel, wheelSetsOf(3), 26000);
+  compare(Shape::TwoOneWheel, plainWheelSets(1), 24000);
+  compare(Shape::TwoOneWheel, plainWheelSets(2), 25000);
+  compare(Shape::TwoOneWheel, plainWheelSets(3), 26000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, wheelSetsOf(1), 27000);
+  compare(Shape::TwoTwoWheels, plainWheelSets(1), 27000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnTwoWheelsOnPairsOfWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, wheelSetsOf(2), 28000);
+  compare(Shape::TwoTwoWheels, plainWheelSets(2), 28000);
 }
 
 TEST(BestWheelSearch, TakesAnyNumberOfAnySetsOfWheels) {
@@ -81,7 +81,7 @@ AmbataRequest oneCase(const Archive& archive) {
   request.cases = {1};
   request.colpi = 3;
   request.lastDraw = archive.NumEstrazioni();
-  request.wheelSets = wheelSetsOf(1);
+  request.wheelSets = plainWheelSets(1);
   request.allowedFix = everyFix();
   request.withFix = true;
   request.keep = 5000;
@@ -136,7 +136,7 @@ TEST(BestWheelSearch, OfOneNumberKeepsTheRepeatsOfOtherFixes) {
 TEST(BestWheelSearch, AddsThePresencesOfTheWheelsOfASet) {
   const Archive archive = archiveOf({kCase, {{"CA", {25, 1, 2, 3, 4}}, {"FI", {25, 1, 2, 3, 4}}}});
   AmbataRequest request = oneCase(archive);
-  request.wheelSets = wheelSetsOf(2);
+  request.wheelSets = plainWheelSets(2);
   const Candidate best = rowsOf(request, 15).front();
   EXPECT_EQ(best.cc, 1);
   EXPECT_EQ(best.wheelSet, 0);  // BA and CA come before CA and FI

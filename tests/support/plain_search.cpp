@@ -336,7 +336,7 @@ NumberCounts plainCountNumbersAtHits(const Archive& archive, const std::vector<P
   return countsOf(presences);
 }
 
-std::vector<WheelSet> wheelSetsOf(int wheels) {
+std::vector<WheelSet> plainWheelSets(int wheels) {
   std::vector<WheelSet> sets;
   for (unsigned a = 0; a < kWheels; ++a) {
     if (wheels == 1) sets.push_back(1U << a);

@@ -30,7 +30,7 @@ std::vector<NumberCounts> plainCountNumbers(const Archive& archive, const std::v
 NumberCounts plainCountNumbersAtHits(const Archive& archive, const std::vector<PureNumberRow>& rows, WheelSet wheels);
 
 /// The wheel sets of the best-wheel buttons: each wheel, pair or triple of wheels.
-std::vector<WheelSet> wheelSetsOf(int wheels);
+std::vector<WheelSet> plainWheelSets(int wheels);
 
 /// The 35 ascending triples.
 TripleFlags ascendingTriples();

@@ -74,7 +74,7 @@ void addBestWheels(const Archive& archive, Hash& hash) {
     for (const int wheels : {1, 2, 3}) {
       if (shape == Shape::TwoTwoWheels && wheels == 3) continue;
       request.formula = formulaInput({shape, wheels, 0, wheels, ascendingTriples()});
-      request.wheelSets = wheelSetsOf(wheels);
+      request.wheelSets = plainWheelSets(wheels);
       request.repeatsAtZeroGetLost = shape == Shape::OneNumber;
       hash.add(searchAmbate(request));
     }
@@ -110,7 +110,7 @@ void addPureNumbers(const Archive& archive, Hash& hash) {
   const AmbataRequest request = requestOn(archive);
   for (const int wheels : {1, 2, 3})
     for (const NumberCounts& counts :
-         countNumbers(archive, request.cases, request.colpi, request.lastDraw, wheelSetsOf(wheels)))
+         countNumbers(archive, request.cases, request.colpi, request.lastDraw, plainWheelSets(wheels)))
       hash.add(counts);
   std::vector<PureNumberRow> rows;
   for (const CompanionRow& row : hitsOfAmbate(request, {9, 27}, kEveryWheel))
