@@ -3,9 +3,12 @@
 #include "engine/ambata_buttons.h"
 #include "engine/candidate_check.h"
 #include "engine/colouring.h"
+#include "engine/companion_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
 #include "engine/lunghetta.h"
+#include "engine/pure_buttons.h"
+#include "engine/summary.h"
 #include "engine/table_tools.h"
 #include "engine/verification.h"
 
@@ -19,11 +22,10 @@ struct TableButtons {
   const char* forCc;  // the verification behind CC; null where there is none
 };
 
-constexpr TableButtons kTableButtons[] = {
-    {1, "Command29", "Command90", "Command32", "Command19", nullptr},
-    {2, "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "Command94"},
-    {3, "Command48", "Command91", "Rimuove_Fg33", "Nuova_Fg33", "Command95"},
-    {6, "Command51", "Command92", "Rimuove_Fg00", "Nuova_Fg00", "Command69"}};
+constexpr TableButtons kTableButtons[] = {{1, "Command29", "Command90", "Command32", "Command19", nullptr},
+                                          {2, "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "Command94"},
+                                          {3, "Command48", "Command91", "Rimuove_Fg33", "Nuova_Fg33", "Command95"},
+                                          {6, "Command51", "Command92", "Rimuove_Fg00", "Nuova_Fg00", "Command69"}};
 
 constexpr std::pair<const char*, int> kCcButtons[] = {{"Command64", 2}, {"Command73", 3}, {"Command84", 6}};
 
@@ -68,12 +70,22 @@ void connectTables(Workbench& w) {
 void connectEngine(Workbench& w) {
   for (const AmbataButton& button : kAmbataButtons)
     w.button(button.name).onEvent([&w, &button] { CercaAmbate(w, button); });
+  for (const CompanionButton& button : kCompanionButtons)
+    w.button(button.name).onEvent([&w, &button] { CercaCompagni(w, button); });
+  for (const PureButton& button : kPureButtons)
+    w.button(button.name).onEvent([&w, &button] { CercaNumeri(w, button); });
+  for (const PureCompanionButton& button : kPureCompanionButtons)
+    w.button(button.name).onEvent([&w, &button] { CercaNumeriCompagni(w, button); });
   connectTables(w);
   w.button("Command3").onEvent([&w] { EstraeTerzine(w); });
   w.button("Cmd_Colora_fgf").onEvent([&w] { ColoraFgF(w); });
   w.button("Command21").onEvent([&w] { verificaRigaFormula(w); });
   w.button("Command22").onEvent([&w] { verificaRigaRicerca(w); });
   w.button("Cmd_Elabora100").onEvent([&w] { Cmd_Elabora100(w); });
+  w.button("Command30").onEvent([&w] { CopiaFormule(w); });
+  w.button("Command85").onEvent([&w] { MostraVistaEstesa(w); });
+  w.button("Command86").onEvent([&w] { CreaRiepilogo(w); });
+  w.button("Command87").onEvent([&w] { RielaboraTutto(w); });
 }
 
 }  // namespace trv5

@@ -7,6 +7,7 @@
 #include "engine/evaluation.h"
 #include "engine/hit_rows.h"
 #include "engine/statistics.h"
+#include "engine/verification.h"
 
 namespace trv5 {
 namespace {
@@ -66,6 +67,29 @@ void PreparaPerScoperti(Workbench& w) {
         w.FgZ100.number(row, hit_column::kRow) == w.Sorte - 1)
       w.CasiQuasi[static_cast<std::size_t>(caseRow)] = true;
   }
+}
+
+void CopiaFormule(Workbench& w) {
+  {
+    const Grid::Batch batch(w.Fg00);
+    w.Fg00.cutToHeading();
+    for (const Grid* table : {&w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid()}) {
+      for (int from = 1; from < table->rows(); ++from) {
+        const int row = w.Fg00.appendRow();
+        for (int column = 0; column < table->columns(); ++column)
+          w.Fg00.setText(row, column, table->text(from, column));
+      }
+    }
+    Colora_fg00(w);
+  }
+  verificaTutte(w, tableKind(6));
+}
+
+void MostraVistaEstesa(Workbench& w) {
+  GridControl& shown = w.shell().show("ElencoRiscontri").get<GridControl>("Fg1");
+  shown.grid() = w.FgZ0;
+  shown.setCurrent(-1);
+  shown.setMerged({0, 1, 2});
 }
 
 }  // namespace trv5

@@ -13,4 +13,7 @@ void PreparaPerScoperti(Workbench& w);
 /// COPIA: gathers the formulas of ambate, ambi and terni in `Fg00` and verifies them.
 void CopiaFormule(Workbench& w);
 
+/// "Visualizzazione estesa": the hits of the lunghetta on a screen of their own.
+void MostraVistaEstesa(Workbench& w);
+
 }  // namespace trv5

@@ -18,6 +18,15 @@ std::string percentText(int count, int total) {
   return tenths < 10 ? fmt::format(".{}", tenths) : fmt::format("{}.{}", tenths / 10, tenths % 10);
 }
 
+// The panel emptied, then what each of its uses writes: the cases and the hits by quantity of numbers.
+void startPanel(Workbench& w) {
+  for (int row = 0; row < w.Fg_Stat.rows(); ++row) w.Fg_Stat.setText(row, 1, "");
+  w.Fg_Stat.setNumber(kCases, 1, w.FgEv.dataRows());
+  for (int q = 1; q <= 5; ++q)
+    if (const int hits = w.EsitiPerSorte[static_cast<std::size_t>(q)]; hits > 0)
+      w.Fg_Stat.setNumber(kByQuantity + q - 1, 1, hits);
+}
+
 }  // namespace
 
 void ContaEsitix(Workbench& w) {
@@ -37,13 +46,8 @@ void ContaEsitix(Workbench& w) {
 void CreaStatistica(Workbench& w) {
   Grid& stat = w.Fg_Stat;
   const Grid::Batch batch(stat);
-  for (int row = 0; row < stat.rows(); ++row) stat.setText(row, 1, "");
-  stat.setNumber(kCases, 1, w.FgEv.dataRows());
-  for (int q = 1; q <= 5; ++q) {
-    const int hits = w.EsitiPerSorte[static_cast<std::size_t>(q)];
-    if (hits > 0) stat.setNumber(kByQuantity + q - 1, 1, hits);
-    stat.setBack(kByQuantity + q - 1, 1, ColoriSorte[static_cast<std::size_t>(q)]);
-  }
+  startPanel(w);
+  for (int q = 1; q <= 5; ++q) stat.setBack(kByQuantity + q - 1, 1, ColoriSorte[static_cast<std::size_t>(q)]);
   stat.setBack(kPositive, 1, VerdeMedio);
   stat.setBack(kNegative, 1, RossoMedio);
   stat.setBack(kOpen, 1, CianoMedio);
@@ -58,6 +62,16 @@ void scriveStatistica(Workbench& w, const Grid& hitGrid, const char* section, co
   }
   w.Fg_Stat.setText(kSection, 1, section);
   w.Fg_Stat.setText(kCovered, 1, covered);
+  w.Fg_Stat.setNumber(kPositive, 1, positive);
+  w.Fg_Stat.setNumber(kNegative, 1, negative);
+  w.Fg_Stat.setNumber(kOpen, 1, w.CasiInCorso);
+}
+
+void scriveRiepilogo(Workbench& w, int positive, int negative) {
+  const Grid::Batch batch(w.Fg_Stat);
+  startPanel(w);
+  w.Fg_Stat.setText(kSection, 1, "RIE");
+  w.Fg_Stat.setNumber(kCovered, 1, w.FgEv.dataRows() - negative);
   w.Fg_Stat.setNumber(kPositive, 1, positive);
   w.Fg_Stat.setNumber(kNegative, 1, negative);
   w.Fg_Stat.setNumber(kOpen, 1, w.CasiInCorso);

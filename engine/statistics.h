@@ -20,4 +20,7 @@ void azzeraStatistiche(Workbench& w);
 /// `covered`.
 void scriveStatistica(Workbench& w, const Grid& hitGrid, const char* section, const std::string& covered);
 
+/// Column 1 of `Fg_Stat` for the summary of a whole method: hit rows and cases without hit as counted there.
+void scriveRiepilogo(Workbench& w, int positive, int negative);
+
 }  // namespace trv5

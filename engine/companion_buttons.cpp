@@ -1,0 +1,71 @@
+#include "engine/companion_buttons.h"
+
+#include <algorithm>
+#include <string>
+
+#include "engine/candidate_check.h"
+#include "engine/colouring.h"
+#include "engine/evaluation.h"
+#include "engine/hit_sources.h"
+#include "engine/lunghetta.h"
+#include "engine/search_frame.h"
+
+namespace trv5 {
+namespace {
+
+constexpr int kTerni = 3, kLunghetta = 6;
+
+CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
+  CompanionRequest request{.archive = &w.archive,
+                           .formula = {.shape = button.shape,
+                                       .elements = elementTables(w, StaleElement::NumeroOttenuto, button.shape),
+                                       .op = static_cast<Operator>(operatorIndex(w)),
+                                       .triples = w.TerzineAmmesse},
+                           .rows = {},
+                           .wheels = w.RuoteGioco,
+                           .guarded = button.guarded,
+                           .allowedFix = w.FixAmmessi,
+                           .withFix = w.ChFix1R.checked(),
+                           .keep = w.Elenco};
+  if (button.sorte == kTerni) request.least = request.most = 2;  // the ambo must stand whole on the wheel
+  if (button.sorte == kLunghetta) request.least = std::max(1, w.Sorte - 1);
+  for (const SourceHit& hit : countingHits(w, hitSource(button.sorte)))
+    request.rows.push_back({hit.caseDraw, hit.hitDraw, hit.numbers});
+  return request;
+}
+
+}  // namespace
+
+void CercaCompagni(Workbench& w, const CompanionButton& button) {
+  using namespace formula_column;
+  if (!hitsAreThere(w, hitSource(button.sorte))) return;
+  if (button.sorte == kLunghetta) w.Sorte = w.ComboSorte.index() + 1;
+  startLog(w);
+  SettaggioFix(w);
+  w.Elenco = w.ComboEle.number();
+  w.Colpi = w.ComboColpi.number();
+  if (operatorIndex(w) < button.knownOperators)
+    w.OperazioneCorrente = kOperators[static_cast<std::size_t>(operatorIndex(w))];
+  if (button.sorte == kLunghetta) PreparaPerScoperti(w);
+
+  const Grid::Batch batch(w.FgF);
+  blankCandidates(w, w.Elenco);
+  const CompanionRequest request = requestOf(w, button);
+  const std::vector<Candidate> ranking = searchCompanions(request);
+  writeRanking(w, ranking, button.shape, request.withFix);
+  if (button.writesOperator) writeAllRows(w, kOperator, w.OperazioneCorrente);
+  writeAllRows(w, kAlteration, w.Combo1R_1N.text());
+  writeAllRows(w, kNr, button.nr);
+  writeAllRows(w, kQn, button.qn);
+  closeCompanionSearch(w, button.sorte);
+}
+
+void closeCompanionSearch(Workbench& w, int sorte) {
+  VerificaCandidati(w, sorte);
+  w.FgF.sortByNumber(formula_column::kCc, true);
+  ColoraFgF(w);
+  addTime(w);
+  w.shell().status("Ricerca: " + std::to_string(w.FgF.dataRows()) + " righe verificate");
+}
+
+}  // namespace trv5

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <array>
+
+#include "cases/workbench.h"
+#include "engine/search.h"
+
+namespace trv5 {
+
+/// A search of the number that came out together with earlier hits, and what it has of its own.
+struct CompanionButton {
+  const char* name;
+  int sorte;  ///< the table that it works for: 2 ambi, 3 terni, 6 lunghetta
+  Shape shape;
+  const char* nr;  ///< columns 14 and 15 of the rows
+  const char* qn;
+  /// How many literals of operators it knows: with a later one `OperazioneCorrente` keeps that of an earlier search.
+  int knownOperators = 0;
+  bool writesOperator = false;  ///< column 10 = `OperazioneCorrente`
+  /// A draw counts for one row only, and a companion on two wheels covers its case once.
+  bool guarded = false;
+};
+
+/// The searches of the tabs Ambi, Terni and Lunghetta.
+inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
+    {.name = "Command28", .sorte = 2, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command39",
+     .sorte = 2,
+     .shape = Shape::TwoOneWheel,
+     .nr = "1",
+     .qn = "2",
+     .knownOperators = 6,
+     .writesOperator = true},
+    {.name = "Command37", .sorte = 2, .shape = Shape::ThreeOneWheel, .nr = "1", .qn = "3", .knownOperators = 4},
+    {.name = "Command31",
+     .sorte = 2,
+     .shape = Shape::TwoTwoWheels,
+     .nr = "1",
+     .qn = "2",
+     .knownOperators = 4,
+     .writesOperator = true},
+    {.name = "Command46", .sorte = 3, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command43",
+     .sorte = 3,
+     .shape = Shape::TwoOneWheel,
+     .nr = "1",
+     .qn = "2",
+     .knownOperators = 6,
+     .writesOperator = true,
+     .guarded = true},
+    {.name = "Command45",
+     .sorte = 3,
+     .shape = Shape::ThreeOneWheel,
+     .nr = "1",
+     .qn = "3",
+     .knownOperators = 4,
+     .writesOperator = true,
+     .guarded = true},
+    {.name = "Command40",
+     .sorte = 3,
+     .shape = Shape::TwoTwoWheels,
+     .nr = "2",
+     .qn = "2",
+     .knownOperators = 6,
+     .writesOperator = true,
+     .guarded = true},
+    {.name = "Command56", .sorte = 6, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command58",
+     .sorte = 6,
+     .shape = Shape::TwoOneWheel,
+     .nr = "1",
+     .qn = "2",
+     .knownOperators = 6,
+     .writesOperator = true},
+    {.name = "Command57", .sorte = 6, .shape = Shape::ThreeOneWheel, .nr = "1", .qn = "3", .knownOperators = 4},
+    {.name = "Command59",
+     .sorte = 6,
+     .shape = Shape::TwoTwoWheels,
+     .nr = "1",
+     .qn = "2",
+     .knownOperators = 6,
+     .writesOperator = true},
+}};
+
+/// Runs the search of a button: ranks in `FgF` the formulas that, evaluated on the draw of the case, give a number that
+/// came out with the hit numbers, on their wheel, in the draw of the hit; then verifies each of them (CC). Ambi start
+/// from `FgZ1`, terni from `FgZ2`, the lunghetta from `FgZ100`; ambi and terni without hit rows show a message.
+void CercaCompagni(Workbench& w, const CompanionButton& button);
+
+/// What every search of companions ends with: CC of its table, the rows by covered cases, colours, the time.
+void closeCompanionSearch(Workbench& w, int sorte);
+
+}  // namespace trv5

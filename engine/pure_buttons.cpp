@@ -1,0 +1,117 @@
+#include "engine/pure_buttons.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "engine/colouring.h"
+#include "engine/companion_buttons.h"
+#include "engine/evaluation.h"
+#include "engine/hit_sources.h"
+#include "engine/lunghetta.h"
+#include "engine/search_frame.h"
+
+namespace trv5 {
+namespace {
+
+constexpr int kLunghetta = 6;
+
+struct NumberRow {
+  int number = 0;  // 0: a blank row
+  NumberCount count = {};
+  std::size_t wheelSet = 0;
+};
+
+// Moves the row at `at` to its place among the others, which are sorted by covered cases, as a stable sort would.
+void settle(std::vector<NumberRow>& rows, std::size_t at) {
+  const int cc = rows[at].count.cc;
+  const auto here = rows.begin() + static_cast<std::ptrdiff_t>(at);
+  const auto up = std::find_if(rows.begin(), here, [cc](const NumberRow& row) { return row.count.cc < cc; });
+  if (up != here) {
+    std::rotate(up, here, here + 1);
+    return;
+  }
+  const auto down = std::find_if(here + 1, rows.end(), [cc](const NumberRow& row) { return row.count.cc <= cc; });
+  std::rotate(here, here + 1, down);
+}
+
+std::vector<NumberRow> overwritePassByPass(const std::vector<NumberCounts>& passes) {
+  std::vector<NumberRow> rows(kMostNumber);
+  for (std::size_t pass = 0; pass < passes.size(); ++pass) {
+    for (std::size_t n = 1; n <= kMostNumber; ++n) {
+      rows[n - 1] = {static_cast<int>(n), passes[pass][n], pass};
+      settle(rows, n - 1);
+    }
+  }
+  return rows;
+}
+
+void writeNumber(Workbench& w, int row, int number, const NumberCount& count) {
+  using namespace formula_column;
+  w.FgF.setNumber(row, kFix, number);
+  w.FgF.setNumber(row, kPres, count.pres);
+  w.FgF.setNumber(row, kCc, count.cc);
+}
+
+NumberCounts countCompanions(const Workbench& w, int sorte) {
+  if (sorte == kLunghetta) return {};
+  std::vector<PureNumberRow> rows;
+  // Rows left from a longer case list count for no case of this one.
+  for (const SourceHit& hit : countingHits(w, hitSource(sorte)))
+    if (hit.caseRow < w.FgEv.rows()) rows.push_back({hit.caseRow, hit.hitDraw, hit.numbers});
+  return countNumbersAtHits(w.archive, rows, w.RuoteGioco);
+}
+
+}  // namespace
+
+void CercaNumeri(Workbench& w, const PureButton& button) {
+  using namespace formula_column;
+  if (!w.FgEv.hasData()) return;
+  startLog(w);
+  w.Elenco = w.ComboEle.number();
+  w.Colpi = w.ComboColpi.number();
+  const std::vector<WheelSet> sets =
+      button.wheelsOfSet == 0 ? std::vector<WheelSet>{w.RuoteGioco} : wheelSetsOf(button.wheelsOfSet);
+  const std::vector<NumberRow> rows =
+      overwritePassByPass(countNumbers(w.archive, countingCases(w), w.Colpi, w.EstrazioneRiferimento, sets));
+
+  const Grid::Batch batch(w.FgF);
+  blankCandidates(w, kMostNumber);
+  for (int row = 1; row < w.FgF.rows(); ++row) {
+    const NumberRow& found = rows[static_cast<std::size_t>(row - 1)];
+    writeNumber(w, row, found.number, found.count);
+    if (button.wheelsOfSet > 0) w.FgF.setText(row, formula_column::kWheels, wheelCodes(sets[found.wheelSet]));
+  }
+  // The number is a fix, and obeys the same switch: without fix the list shows counts alone.
+  if (!w.ChFix1R.checked()) writeAllRows(w, kFix, "");
+  writeAllRows(w, kAlteration, w.Combo1R_1N.text());
+  writeAllRows(w, kNr, "0");
+  writeAllRows(w, kQn, "1");
+  ColoraFgF(w);
+  addTime(w);
+  w.shell().status("Ricerca: 90 numeri");
+}
+
+void CercaNumeriCompagni(Workbench& w, const PureCompanionButton& button) {
+  using namespace formula_column;
+  if (!hitsAreThere(w, hitSource(button.sorte))) return;
+  startLog(w);
+  if (button.sorte == kLunghetta) {
+    PreparaPerScoperti(w);
+    w.Sorte = w.ComboSorte.index() + 1;
+  }
+  w.Elenco = w.ComboEle.number();
+  SettaggioFix(w);
+  w.Colpi = w.ComboColpi.number();
+  const NumberCounts counts = countCompanions(w, button.sorte);
+
+  const Grid::Batch batch(w.FgF);
+  blankCandidates(w, kMostNumber);
+  for (int n = 1; n <= kMostNumber; ++n) writeNumber(w, n, n, counts[static_cast<std::size_t>(n)]);
+  w.FgF.sortByNumber(kCc, true);
+  writeAllRows(w, kNr, "0");
+  writeAllRows(w, kQn, "0");
+  closeCompanionSearch(w, button.sorte);
+}
+
+}  // namespace trv5
