@@ -4,18 +4,13 @@
 //   search_bench [HISTORY]    HISTORY: the published history of draws, plain or packed; without it, that beside the
 //                             checkout, and where there is none the simulated draws
 #include <fmt/format.h>
-#include <time.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "bench_tools.h"
 #include "engine/search.h"
 #include "maintenance/demo_archive.h"
-#include "maintenance/formats/compressed_text.h"
-#include "maintenance/formats/published_history.h"
 #include "support/plain_search.h"
 #include "support/search_fingerprint.h"
 
@@ -25,27 +20,6 @@ namespace {
 constexpr int kKeep = 100;
 constexpr int kCases = 50;
 constexpr WheelSet kEveryWheel = (1U << kWheels) - 1U;
-
-// Processor time of this thread: other programs of the machine don't count.
-double now() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-}
-
-// Seconds of one call, the median of as many as fit some time; at least three.
-double secondsOf(const std::function<void()>& call, double time) {
-  std::vector<double> taken;
-  double sum = 0;
-  while (taken.size() < 3 || sum < time) {
-    const double start = now();
-    call();
-    taken.push_back(now() - start);
-    sum += taken.back();
-  }
-  std::nth_element(taken.begin(), taken.begin() + static_cast<std::ptrdiff_t>(taken.size() / 2), taken.end());
-  return taken[taken.size() / 2];
-}
 
 bool g_allAgree = true;
 
@@ -141,25 +115,12 @@ void benchPureNumbers(const Archive& archive) {
   for (const int wheels : {1, 2, 3}) bench(fmt::format("pure numbers, {}R", wheels), plainWheelSets(wheels));
 }
 
-Archive archiveOfDraws(const std::vector<Draw>& draws) {
-  std::vector<DrawRow> rows;
-  for (const Draw& draw : draws) rows.push_back(rowOf(draw));
-  Archive archive;
-  archive.loadNumbers(rows);
-  return archive;
-}
-
 }  // namespace
 }  // namespace trv5
 
 int main(int argc, char** argv) {
   using namespace trv5;
-  const std::filesystem::path beside = TRV5_HISTORY;
-  const std::filesystem::path history = argc > 1 ? std::filesystem::path(argv[1]) : beside;
-  const bool real = argc > 1 || std::filesystem::exists(beside);
-  const Archive archive =
-      archiveOfDraws(real ? readPublishedHistory(readCompressedText(history)).draws : simulatedDraws());
-  fmt::print("{} draws, {}\n", archive.NumEstrazioni(), real ? history.string() : "simulated");
+  const Archive archive = archiveToMeasure(argc, argv);
   fmt::print("{:<44} {:>11} {:>10} {:>8}\n", "50 cases, with fix, 100 rows", "plain (ms)", "engine", "ratio");
   benchAmbate(archive);
   benchBestWheels(archive);
