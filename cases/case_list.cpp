@@ -82,6 +82,17 @@ void MostraMappaCasi(Workbench& w) {
   paintMap(w, map);
 }
 
+std::string mapCellText(const Grid& map, int row, int column) {
+  if (row < 1 || row >= map.rows() || column >= map.columns()) return {};
+  std::string text = "Caso " + map.text(row, 0);
+  if (column < 1) return text;
+  text += ", estrazione " + map.text(0, column);
+  if (map.back(row, column) != Rosso) return text;
+  int colpo = 1;  // the colpi of a case lie side by side
+  while (column - colpo > 0 && map.back(row, column - colpo) == Rosso) ++colpo;
+  return text + ", colpo " + std::to_string(colpo);
+}
+
 void CancellaSegniVerifica(Workbench& w) {
   const Grid::Batch batch(w.FgEv);
   for (int row = 1; row < w.FgEv.rows(); ++row) {

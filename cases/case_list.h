@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "cases/workbench.h"
 
 namespace trv5 {
@@ -12,6 +14,9 @@ void VisualizzaEstrazione(Workbench& w);
 
 /// Map of the cases: each case's colpi on a common axis of draws, on the screen `EvoluzioneGrafica`.
 void MostraMappaCasi(Workbench& w);
+
+/// What a cell of the map tells: its case, its draw and, where it is painted, which colpo of the case that is.
+std::string mapCellText(const Grid& map, int row, int column);
 
 /// "Nuova configurazione" of the case list: clears the marks of verification, the cases stay.
 void CancellaSegniVerifica(Workbench& w);

@@ -13,8 +13,6 @@ constexpr std::string_view kFormulaHeading =
     "|1|R1|P1|2|R2|P2|3|R3|P3|Operazione|Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo|Sorte";
 constexpr std::string_view kScratchHeading =
     "Prog|1|R1|P1|2|R2|P2|3|R3|P3|Operatore    |Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo|Sorte";
-constexpr std::string_view kHitHeading =
-    "Prog|N° Estr|Data ricavo    |Riga|R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
 constexpr std::string_view kSummaryHeading =
     "Prog|N° Estr|Data ricavo    |QN |R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
 

@@ -18,6 +18,10 @@ inline constexpr int kHits = 17;       ///< S1; column kHits + sorte - 1
 inline constexpr int kLunghetta = 22;  ///< LU
 }  // namespace case_column
 
+/// Heading of the hit grids.
+inline constexpr std::string_view kHitHeading =
+    "Prog|N° Estr|Data ricavo    |Riga|R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
+
 /// The workbench, where a method is built: all its controls and the state that its operations share. Operations are
 /// functions on it; the layers connect them to its buttons.
 class Workbench : public Form, public WorkbenchState {

@@ -1,12 +1,11 @@
 #include "engine/result_forms.h"
 
+#include "cases/workbench.h"
 #include "engine/table_tools.h"
 
 namespace trv5 {
 namespace {
 
-constexpr std::string_view kHitHeading =
-    "Prog|N° Estr|Data ricavo    |Riga|R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
 constexpr std::string_view kOutcomeHeading =
     "  |Config|Config|Rilev|Data Rilev|S |Colpo|1|2|3|4|5|6|7|8|9|10|Sorte|Colpo|Ruota";
 
