@@ -15,7 +15,8 @@ TEST(NumberCount, AfterCasesAgreesWithThePlainCount) {
     for (int setting = 0; setting < 5; ++setting) {
       const AmbataRequest random = randomAmbataRequest(rng, archive);
       const int wheels = below(rng, 4);
-      const std::vector<WheelSet> sets = wheels == 0 ? std::vector<WheelSet>{randomWheelSet(rng)} : plainWheelSets(wheels);
+      const std::vector<WheelSet> sets =
+          wheels == 0 ? std::vector<WheelSet>{randomWheelSet(rng)} : plainWheelSets(wheels);
       ASSERT_EQ(countNumbers(archive, random.cases, random.colpi, random.lastDraw, sets),
                 plainCountNumbers(archive, random.cases, random.colpi, random.lastDraw, sets));
     }
