@@ -29,7 +29,7 @@ void readSelections(Workbench& w) {
 
 // False when the run stops for want of a usable value.
 bool valuesAreUsable(Workbench& w, Kind kind) {
-  const std::string& text = w.TxtNumeri.text();
+  const std::string text = asciiText(w.TxtNumeri.text());
   const bool needsValue = kind != Kind::NumPari && kind != Kind::Ciclo && kind != Kind::Mensile;
   if (needsValue && text.empty()) {
     w.shell().message({.text = "Attenzione: Selezionare almeno un valore"});
@@ -49,7 +49,7 @@ bool valuesAreUsable(Workbench& w, Kind kind) {
 void readNumbers(Workbench& w) {
   w.NumeriScelti = {};
   w.TestoNumeri = w.TxtNumeri.text();
-  for (int n : numbersEveryThree(w.TestoNumeri)) {
+  for (int n : numbersEveryThree(asciiText(w.TestoNumeri))) {
     if (n < 1 || n > kMostNumber) continue;
     const auto at = static_cast<std::size_t>(n);
     w.NumeriScelti[at] = true;

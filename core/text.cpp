@@ -50,6 +50,18 @@ std::vector<int> numbersEveryThree(std::string_view text) {
   return numbers;
 }
 
+std::string asciiText(std::string_view text) {
+  std::string ascii;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80)
+      ascii += c;
+    else if (byte >= 0xC0)  // the first byte of a character
+      ascii += '?';
+  }
+  return ascii;
+}
+
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
   const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });

@@ -23,6 +23,9 @@ std::vector<std::string> split(std::string_view text, char separator);
 /// as numberOf reads it, 0 included.
 std::vector<int> numbersEveryThree(std::string_view text);
 
+/// `text` with '?' in place of each character beyond ASCII, so that places count characters and not bytes.
+std::string asciiText(std::string_view text);
+
 /// True when the two texts are equal but for the case of their ASCII letters.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 

@@ -50,6 +50,12 @@ TEST(Text, NumbersEveryThreeReadsTwoDigitsAndAnySeparator) {
   EXPECT_TRUE(numbersEveryThree("").empty());
 }
 
+TEST(Text, CountsCharactersBeyondAsciiAsOnePlace) {
+  EXPECT_EQ(asciiText("05–12–33"), "05?12?33");
+  EXPECT_EQ(asciiText("è5€"), "?5?");
+  EXPECT_EQ(asciiText("05-12"), "05-12");
+}
+
 TEST(Text, EqualIgnoringCaseComparesTheWholeText) {
   EXPECT_TRUE(equalIgnoringCase("PercorsoArchivio", "percorsoarchivio"));
   EXPECT_FALSE(equalIgnoringCase("Percorso", "PercorsoArchivio"));
