@@ -195,11 +195,19 @@ void verificaRigaFormula(Workbench& w) {
 void verificaRigaRicerca(Workbench& w) {
   verificaRiga(w, w.FgF, [&w] {
     if (w.Formula.Nr == 0) return;  // a pure number can't be verified here
+    ParametriFormula& p = w.Formula;
+    const ParametriFormula loaded = p;
+    // Elements that the row doesn't have, as all of a blank row, are 0 here, not those of the row before.
+    if (w.FgF.text(w.FgF.current(), formula_column::kR2).empty()) p.R2 = p.P2 = 0;
+    if (w.FgF.text(w.FgF.current(), formula_column::kR3).empty()) p.R3 = p.P3 = 0;
     // It knows four operators; a row with another keeps the value of the case before and adds its fix again.
-    const std::string operation = w.Formula.Operazione;
-    if (operatorOf(operation) > Operator::Product) w.Formula.Operazione.clear();
-    OttieneNumero(w.archive, w.Formula);
-    w.Formula.Operazione = operation;
+    if (operatorOf(p.Operazione) > Operator::Product) p.Operazione.clear();
+    OttieneNumero(w.archive, p);
+    p.Operazione = loaded.Operazione;
+    p.R2 = loaded.R2;
+    p.P2 = loaded.P2;
+    p.R3 = loaded.R3;
+    p.P3 = loaded.P3;
   });
 }
 
