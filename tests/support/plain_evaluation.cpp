@@ -19,7 +19,7 @@ int digit(char c) {
 
 /// The altered element of (wheel, position), or `kept` where the alteration is none that is known.
 int altered(const Archive& archive, const ParametriFormula& p, int wheel, int position, int kept) {
-  const int n = archive.number(p.Estr, wheel, position);
+  const int n = position == 0 ? 0 : archive.number(p.Estr, wheel, position);
   const auto at = static_cast<std::size_t>(n);
   if (p.Alteraz.empty()) return n;
   if (p.Alteraz == "C91") return 91 - n;
