@@ -146,12 +146,13 @@ void CambiaEstrazioneRiferimento(Workbench& w) {
 }
 
 void CambiaTabPrevisioni(Workbench& w) {
-  for (const auto& [index, button] : w.Cmd_LaSorte) button->setBack(Giallo);
   constexpr std::pair<int, int> sorteOfTab[] = {{0, 1}, {1, 2}, {2, 3}, {4, 6}};
   for (const auto& [tab, sorte] : sorteOfTab) {
     if (tab != w.SSTab3.index()) continue;
-    for (const auto& [index, button] : w.Cmd_LaSorte) button->setEnabled(index == sorte);
-    w.Cmd_LaSorte[sorte].setBack(Verde);
+    for (const auto& [index, button] : w.Cmd_LaSorte) {
+      button->setEnabled(index == sorte);
+      button->setBack(index == sorte ? Verde : Giallo);
+    }
   }
 }
 
