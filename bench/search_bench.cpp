@@ -33,7 +33,7 @@ void compare(const std::string& name, Plain plain, Fast fast) {
 }
 
 PlainFormula formulaOf(Shape shape) {
-  return {shape, 0, 0, 0, ascendingTriples()};
+  return {shape, 0, {}, 0, ascendingTriples()};
 }
 
 std::string shapeName(Shape shape) {

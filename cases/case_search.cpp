@@ -135,7 +135,7 @@ void RicavaElencoEstrazioni(Workbench& w) {
   if (w.FgEv.hasData()) w.Label5.setText(std::to_string(caseDraw(w, 1) - caseDraw(w, w.FgEv.rows() - 1)));
   w.FgEv.setEmptyText("Nessun caso per questa situazione: cambia il valore o le posizioni");
   w.FgF.setEmptyText(w.FgEv.hasData() ? "Nessuna ricerca: premi 1N 1R, 2N 1R, 3N 1R o 2N 2R"
-                                      : "Prima ricava l'elenco delle estrazioni");
+                                      : "Nessuna ricerca: prima ricava l'elenco delle estrazioni");
   w.shell().status("Elenco estrazioni: " + std::to_string(w.FgEv.dataRows()) + " casi");
 }
 

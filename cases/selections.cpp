@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cases/read_selections.h"
 #include "core/text.h"
 
 namespace trv5 {
@@ -108,10 +109,31 @@ void captionArrays(Workbench& w) {
   w.OptionRit[0].set(true);
 }
 
+// What to press where there is nothing to see yet.
+void tellEmptyGrids(Workbench& w) {
+  w.FgEv.setEmptyText("Nessun caso: scegli una situazione e premi RICAVA ELENCO ESTRAZIONI");
+  w.FgF.setEmptyText("Nessuna ricerca: prima ricava l'elenco delle estrazioni");
+  w.Fg11.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 1");
+  w.Fg22.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 2");
+  w.Fg33.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 3");
+  w.Fg00.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi L");
+  for (GridControl* hits : {&w.FgZ1, &w.FgZ2, &w.FgZ3, &w.FgZ0})
+    hits->setEmptyText("Nessuna verifica: premi Verifica tutte le righe");
+  w.FgZZ.setEmptyText("Scegli le sorti e premi RIEPILOGO");
+  w.FgIC.setEmptyText("Premi Elenco previsioni in corso");
+  w.Fg15.setEmptyText("Compare dopo una verifica");
+  w.FgGioco.setEmptyText("Fai clic su un caso a sinistra");
+  w.FgRagg.setEmptyText("Premi Esegue procedura");
+  w.FgConv.setEmptyText("Premi AMBATE, AMBO o TERNO");
+  w.FgRit.setEmptyText("Premi RITARDI o PRESENZE");
+  w.FgPir1.setEmptyText("Premi ELENCO");
+}
+
 }  // namespace
 
 void ApreBanco(Workbench& w) {
   captionArrays(w);
+  tellEmptyGrids(w);
   fillStatisticsCaptions(w);
   fill(w.ComboFix, withFirst("", numbers(1, kMostNumber)), 0);
   NuovaConfigurazioneReset(w);
@@ -200,6 +222,8 @@ void SelezionaPerProprieta(Workbench& w, const NumberTable& property) {
 void connectSelections(Workbench& w) {
   w.hs1.onEvent([&w] { CambiaEstrazioneRiferimento(w); });
   w.SSTab3.onEvent([&w] { CambiaTabPrevisioni(w); });
+  w.ComboFiltro.onEvent([&w] { MarcaSelezioniLette(w); });
+  w.Ch_analisi2ruote.onEvent([&w] { MarcaSelezioniLette(w); });
   w.ComboSorte.onEvent([&w] { w.Sorte = w.ComboSorte.index() + 1; });
   w.FgNu.onCellClick([&w](int row, int column) { toggle(w.FgNu, row, column, Ciano); });
   w.FgRR.onCellClick([&w](int row, int column) { toggle(w.FgRR, row, column, Verde); });

@@ -82,6 +82,12 @@ void Control::setFore(std::optional<Rgb> colour) {
   changed();
 }
 
+void Control::setAside(bool aside) {
+  if (m_aside == aside) return;
+  m_aside = aside;
+  changed();
+}
+
 void Control::setToolTip(std::string text) {
   m_toolTip = std::move(text);
   changed();

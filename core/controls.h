@@ -79,6 +79,9 @@ class Control {
   void setFore(std::optional<Rgb> colour);
   const std::string& toolTip() const { return m_toolTip; }
   void setToolTip(std::string text);
+  /// True when no operation would read the control's value as things stand: it is shown quietly, and works as ever.
+  bool aside() const { return m_aside; }
+  void setAside(bool aside);
 
   /// The operation of the control: a click, a pick, a change of value.
   void onEvent(std::function<void()> operation) { m_event = std::move(operation); }
@@ -96,7 +99,7 @@ class Control {
  private:
   Form& m_form;
   std::string m_name;
-  bool m_enabled = true;
+  bool m_enabled = true, m_aside = false;
   std::optional<Rgb> m_back, m_fore;
   std::string m_toolTip;
   std::function<void()> m_event, m_doubleClick, m_listener;

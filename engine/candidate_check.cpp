@@ -198,8 +198,9 @@ class Run {
   int column() const { return m_verification.markColumn - case_column::kHits; }
   bool accepts() const { return !m_kind.keepsTable || m_rowsBefore - 1 < kMostLunghetta; }
 
+  // The row whose verification is the last one. The formulas that a table keeps are verified at blank rows too.
   int lastCandidate() const {
-    if (!accepts()) return 0;
+    if (m_rowsBefore > 1) return m_w.FgF.rows() - 1;
     for (int row = m_w.FgF.rows() - 1; row >= 1; --row)
       if (!isBlank(m_w.FgF, row)) return row;
     return 0;

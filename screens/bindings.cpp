@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -55,6 +56,11 @@ class Link : public QObject {
   void followLooks() {
     m_widget.setEnabled(m_control.enabled());
     if (const QString tip = qs(m_control.toolTip()); m_widget.toolTip() != tip) m_widget.setToolTip(tip);
+    if (m_widget.property("aside").toBool() != m_control.aside()) {
+      m_widget.setProperty("aside", m_control.aside());
+      m_widget.style()->unpolish(&m_widget);
+      m_widget.style()->polish(&m_widget);
+    }
     const QString sheet = colourSheet();
     if (m_widget.styleSheet() != sheet) m_widget.setStyleSheet(sheet);
   }
@@ -67,7 +73,9 @@ class Link : public QObject {
       const Rgb back = *m_control.back();
       sheet += QStringLiteral("background-color: %1;").arg(toColor(back).name());
       const Rgb ink = readableInk(m_control.fore().value_or(kBlack), back);
-      sheet += QStringLiteral("color: %1;").arg(toColor(m_control.enabled() ? ink : 0x555555).name());
+      const Rgb quiet = kLightColours.text2;
+      sheet +=
+          QStringLiteral("color: %1;").arg(toColor(m_control.enabled() && !m_control.aside() ? ink : quiet).name());
     } else if (m_control.fore() && *m_control.fore() != kBlack) {
       sheet += QStringLiteral("color: %1;").arg(toColor(*m_control.fore()).name());
     }
@@ -134,9 +142,9 @@ void bind(QLabel& widget, Label& control) {
   follow(widget, control, [&widget, &control] { widget.setText(qs(control.text())); });
 }
 
-void bind(ClickLabel& widget, Label& control) {
-  follow(widget, control, [&widget, &control] {
-    widget.setText(qs(control.text()));
+void bind(ClickLabel& widget, Label& control, QChar mnemonic) {
+  follow(widget, control, [&widget, &control, mnemonic] {
+    widget.setText(mnemonic.isNull() ? qs(control.text()) : withMnemonic(control.text(), mnemonic));
     widget.setAccessibleName(control.toolTip().empty() ? qs(control.text()) : qs(control.toolTip()));
   });
   QObject::connect(&widget, &ClickLabel::clicked, &widget, [&control] { control.click(); });

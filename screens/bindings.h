@@ -31,7 +31,8 @@ void bind(QAbstractButton& widget, Button& control, QChar mnemonic = {});
 void bind(QAbstractButton& widget, Label& control);
 void bind(QAbstractButton& widget, Check& control, QChar mnemonic = {});
 void bind(QLabel& widget, Label& control);
-void bind(ClickLabel& widget, Label& control);
+/// The mnemonic takes a label to its buddy.
+void bind(ClickLabel& widget, Label& control, QChar mnemonic = {});
 /// A label shown as a field that can be selected and copied but not written.
 void bind(QLineEdit& widget, Label& control);
 void bind(QComboBox& widget, Combo& control);

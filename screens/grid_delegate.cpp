@@ -54,7 +54,8 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   const bool strong = cell.bold || (m_view.look().pad && cell.back != kWhite);
   const QFont& font = m_view.cellFont(strong);
   painter->setFont(font);
-  painter->setPen(toColor(m_view.isEnabled() ? readableInk(cell.fore, behind) : kLightColours.disabled));
+  const Rgb ink = grid.aside() ? kLightColours.text2 : readableInk(cell.fore, behind);
+  painter->setPen(toColor(m_view.isEnabled() ? ink : kLightColours.disabled));
   QString text = qs(cell.text);
   const QFontMetrics metrics(font, painter->device());
   if (text.size() > 2 && metrics.horizontalAdvance(text) > inside.width())

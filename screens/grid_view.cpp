@@ -146,7 +146,7 @@ int GridView::naturalWidth(int column) const {
     return m_grid.width(column) / 15;  // the grid's own unit is a twentieth of a point, 15 of them a pixel
   if (sample.isEmpty() && heading.isEmpty() && m_grid.hasData())
     width = std::max(width, cells.horizontalAdvance(qs(m_grid.text(m_grid.headingRows(), column))));
-  return width + Theme::current().unit() + 4;
+  return width + (m_look.tight ? 5 : Theme::current().unit() + 4);
 }
 
 int GridView::evenWidth() const {
@@ -216,6 +216,7 @@ QSize GridView::sizeHint() const {
   const int even = m_look.even ? evenWidth() : 0;
   for (int column = 0; column < m_model->columnCount(); ++column)
     if (!isColumnHidden(column)) width += m_look.even ? even : naturalWidth(column);
+  if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) width += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
   const int rows = m_look.pad || m_look.fixedHeight ? visibleRowCount() : 8;
   const int row = std::max(m_look.minRow, verticalHeader()->defaultSectionSize());

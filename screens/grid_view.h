@@ -21,6 +21,7 @@ struct GridLook {
   std::vector<int> heavyAfter = {};  ///< columns followed by a heavier line
   bool pad = false;                  ///< cells are keys: click, drag to paint, Space; no row frame, no selection
   bool even = false;                 ///< all columns equally wide, filling the view
+  bool tight = false;                ///< little padding in the cells
   int minColumn = 0;                 ///< least width of an even column in pixels; 0: the widest text
   int minRow = 0, maxRow = 0;        ///< rows stretch with the view between these heights; 0: the theme's row height
   double points = 0;                 ///< size of the cells' font; 0: the base font

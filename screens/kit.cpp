@@ -48,13 +48,6 @@ QChar letter(char mnemonic) {
   return mnemonic == 0 ? QChar() : QChar(QLatin1Char(mnemonic));
 }
 
-// Widths that depend on the font follow it.
-template <class Widget, class Set>
-void withTheme(Widget* widget, Set set) {
-  QObject::connect(&Theme::current(), &Theme::changed, widget, set);
-  set();
-}
-
 }  // namespace
 
 void dress(QAbstractButton& button, const ButtonLook& look) {
@@ -76,7 +69,7 @@ QPushButton* Kit::button(std::string_view name, ButtonLook look) {
   dress(*widget, look);
   bind(*widget, control<Button>(name), letter(look.mnemonic));
   if (look.iconOnly) {
-    withTheme(widget, [widget] { widget->setFixedWidth(Theme::current().control()); });
+    withTheme(*widget, [widget] { widget->setFixedWidth(Theme::current().control()); });
   } else {
     widget->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   }
@@ -108,7 +101,7 @@ QToolButton* Kit::key(std::string_view name) {
   dress(*widget, {.strong = true});
   widget->setFocusPolicy(Qt::StrongFocus);
   bind(*widget, control<Label>(name));
-  withTheme(widget, [widget] { widget->setMinimumWidth(Theme::current().control()); });
+  withTheme(*widget, [widget] { widget->setMinimumWidth(Theme::current().control()); });
   return widget;
 }
 
@@ -119,10 +112,10 @@ QLabel* Kit::label(std::string_view name, Type type) {
   return widget;
 }
 
-ClickLabel* Kit::clickLabel(std::string_view name, Type type) {
+ClickLabel* Kit::clickLabel(std::string_view name, Type type, char mnemonic) {
   auto* const widget = new ClickLabel;
   setType(*widget, type);
-  bind(*widget, control<Label>(name));
+  bind(*widget, control<Label>(name), letter(mnemonic));
   return widget;
 }
 
@@ -148,7 +141,7 @@ QComboBox* Kit::combo(std::string_view name, const QString& widest) {
     widget->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   } else {
     // The text, the arrow, padding and borders.
-    withTheme(widget, [widget, widest] {
+    withTheme(*widget, [widget, widest] {
       widget->setFixedWidth(QFontMetrics(Theme::current().base()).horizontalAdvance(widest) + 44);
     });
   }
@@ -158,14 +151,14 @@ QComboBox* Kit::combo(std::string_view name, const QString& widest) {
 QCheckBox* Kit::check(std::string_view name, char mnemonic) {
   auto* const widget = new QCheckBox;
   bind(*widget, control<Check>(name), letter(mnemonic));
-  withTheme(widget, [widget] { widget->setMinimumHeight(std::max(24, Theme::current().row())); });
+  withTheme(*widget, [widget] { widget->setMinimumHeight(std::max(24, Theme::current().row())); });
   return widget;
 }
 
 QRadioButton* Kit::option(std::string_view name, char mnemonic) {
   auto* const widget = new QRadioButton;
   bind(*widget, control<Check>(name), letter(mnemonic));
-  withTheme(widget, [widget] { widget->setMinimumHeight(std::max(24, Theme::current().row())); });
+  withTheme(*widget, [widget] { widget->setMinimumHeight(std::max(24, Theme::current().row())); });
   return widget;
 }
 
@@ -174,7 +167,7 @@ QLineEdit* Kit::edit(std::string_view name, const QString& widest, bool clearBut
   widget->setClearButtonEnabled(clearButton);
   bind(*widget, control<Text>(name));
   if (!widest.isEmpty())
-    withTheme(widget, [widget, widest] {
+    withTheme(*widget, [widget, widest] {
       widget->setFixedWidth(QFontMetrics(Theme::current().base()).horizontalAdvance(widest) + 22);
     });
   return widget;
@@ -202,7 +195,7 @@ QListWidget* Kit::lines(std::string_view name, int lines, const QString& widest)
   auto* const widget = new QListWidget;
   widget->setSelectionMode(QAbstractItemView::NoSelection);
   bind(*widget, control<LineList>(name));
-  withTheme(widget, [widget, lines, widest] {
+  withTheme(*widget, [widget, lines, widest] {
     const QFontMetrics metrics(Theme::current().base());
     if (!widest.isEmpty()) {
       widget->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

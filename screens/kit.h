@@ -67,7 +67,7 @@ class Kit {
   QToolButton* key(std::string_view name);
   QLabel* label(std::string_view name, Type type = Type::Base);
   /// A label with an operation, shown as text.
-  ClickLabel* clickLabel(std::string_view name, Type type = Type::Base);
+  ClickLabel* clickLabel(std::string_view name, Type type = Type::Base, char mnemonic = 0);
   /// The same with a square of colour before the text.
   ClickLabel* swatch(std::string_view name, Rgb colour, bool captionShown = true);
   /// A label shown as a field, giving up its middle where it is too long.

@@ -100,6 +100,10 @@ void Panel::setTitle(const QString& title) {
   if (m_title != nullptr) m_title->setText(title);
 }
 
+void Panel::setBare() {
+  setProperty("bare", true);
+}
+
 QBoxLayout* row(const std::vector<Piece>& pieces) {
   return box(QBoxLayout::LeftToRight, pieces);
 }

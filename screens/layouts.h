@@ -45,6 +45,8 @@ class Panel : public QFrame {
   /// The row of the title, for what stands beside it; null without a title.
   QBoxLayout* head() const { return m_head; }
   void setTitle(const QString& title);
+  /// Without padding, for what brings its own.
+  void setBare();
 
  private:
   QVBoxLayout* m_body;

@@ -39,8 +39,7 @@ class UnitStyle : public QProxyStyle {
       case PM_LayoutRightMargin:
       case PM_LayoutBottomMargin:
         // Padding belongs to panels and windows; pages and rows inside them begin at the same edge.
-        if (own && widget != nullptr)
-          return widget->property("panel").toBool() || widget->isWindow() ? Theme::current().panelPadding() : 0;
+        if (own && widget != nullptr) return padding(metric, *widget);
         break;
       case PM_ButtonIconSize:
       case PM_SmallIconSize:
@@ -58,6 +57,15 @@ class UnitStyle : public QProxyStyle {
     // Nothing moves by itself.
     if (hint == SH_Widget_Animation_Duration) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  static int padding(PixelMetric metric, const QWidget& widget) {
+    const int padding = Theme::current().panelPadding();
+    // The page of a tab has its own: the line below the tabs runs over the whole panel, and parts them at the top.
+    if (widget.property("page").toBool()) return metric == PM_LayoutTopMargin ? 0 : padding;
+    const bool padded = widget.isWindow() || (widget.property("panel").toBool() && !widget.property("bare").toBool());
+    return padded ? padding : 0;
   }
 };
 
@@ -230,6 +238,11 @@ void Theme::apply() {
   m_app.setFont(base());
   m_app.setStyleSheet(styleSheet());
   Q_EMIT changed();
+}
+
+void withTheme(QObject& owner, const std::function<void()>& set) {
+  QObject::connect(&Theme::current(), &Theme::changed, &owner, set);
+  set();
 }
 
 }  // namespace trv5

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QObject>
 #include <QString>
+#include <functional>
 
 #include "core/palette.h"
 
@@ -127,5 +128,8 @@ class Theme : public QObject {
   Density m_density = Density::Comfortable;
   double m_points = 0;
 };
+
+/// Runs `set` now and after each change of the theme, as long as `owner` lives: for sizes that come from the font.
+void withTheme(QObject& owner, const std::function<void()>& set);
 
 }  // namespace trv5

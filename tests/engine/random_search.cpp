@@ -54,7 +54,8 @@ Archive randomSearchArchive(std::mt19937& rng) {
 }
 
 PlainFormula randomFormula(std::mt19937& rng, Shape shape) {
-  PlainFormula formula{shape, below(rng, 10), below(rng, 100), below(rng, 6), ascendingTriples()};
+  PlainFormula formula{
+      shape, below(rng, 10), {below(rng, 100), below(rng, 100), below(rng, 100)}, below(rng, 6), ascendingTriples()};
   if (below(rng, 3) == 0)
     for (auto& first : formula.triples)
       for (auto& second : first)

@@ -10,7 +10,7 @@ namespace {
 
 using std::size_t;
 
-int altered(const PlainFormula& formula, int n) {
+int altered(const PlainFormula& formula, int element, int n) {
   switch (formula.alteration) {
     case 0:
       return n;
@@ -31,7 +31,7 @@ int altered(const PlainFormula& formula, int n) {
     case 8:
       return TabVertibile[static_cast<size_t>(n)];
     default:
-      return formula.constant;
+      return formula.constants[static_cast<size_t>(element)];
   }
 }
 
@@ -42,14 +42,14 @@ struct Elements {
 
 template <Shape kShape>
 int rawValue(const Archive& archive, const PlainFormula& formula, int draw, const Elements& e) {
-  int a = altered(formula, archive.number(draw, e.w1, e.p1));
+  int a = altered(formula, 0, archive.number(draw, e.w1, e.p1));
   if (a == 0) a = 90;
   int value = a % 90;
   if constexpr (kShape != Shape::OneNumber) {
-    int b = altered(formula, archive.number(draw, e.w2, e.p2));
+    int b = altered(formula, 1, archive.number(draw, e.w2, e.p2));
     if (b == 0) b = 90;
     if constexpr (kShape == Shape::ThreeOneWheel) {
-      int c = altered(formula, archive.number(draw, e.w3, e.p3));
+      int c = altered(formula, 2, archive.number(draw, e.w3, e.p3));
       if (c == 0) c = 90;
       value = (a + b + c) % 90;
     } else {
@@ -268,9 +268,10 @@ NumberCounts countsOf(const PresenzeCaso& presences) {
 FormulaInput formulaInput(const PlainFormula& formula) {
   FormulaInput input;
   input.shape = formula.shape;
-  input.elements.fill(formula.alteration == PlainFormula::kConstant
-                          ? constantTable(formula.constant)
-                          : *elementTable(kAlterations[static_cast<size_t>(formula.alteration)]));
+  for (size_t e = 0; e < input.elements.size(); ++e)
+    input.elements[e] = formula.alteration == PlainFormula::kConstant
+                            ? constantTable(formula.constants[e])
+                            : *elementTable(kAlterations[static_cast<size_t>(formula.alteration)]);
   input.op = *operatorOf(kOperators[static_cast<size_t>(formula.op)]);
   input.triples = formula.triples;
   return input;

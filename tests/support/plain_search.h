@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "engine/search.h"
@@ -8,11 +9,11 @@ namespace trv5 {
 
 /// A formula's shape and rules as the searches read them from the controls.
 struct PlainFormula {
-  static constexpr int kConstant = 9;  ///< alteration: every element is `constant`
+  static constexpr int kConstant = 9;  ///< alteration: each element is its constant
 
   Shape shape = Shape::OneNumber;
   int alteration = 0;  ///< index in kAlterations, or kConstant
-  int constant = 0;
+  std::array<int, 3> constants{};
   int op = 0;  ///< index in kOperators
   TripleFlags triples{};
 };

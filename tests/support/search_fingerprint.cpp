@@ -58,7 +58,7 @@ void addAmbate(const Archive& archive, Hash& hash) {
   AmbataRequest request = requestOn(archive);
   for (const Shape shape : kShapes)
     for (int alteration = 0; alteration < 9; ++alteration) {
-      request.formula = formulaInput({shape, alteration, 0, alteration % 6, ascendingTriples()});
+      request.formula = formulaInput({shape, alteration, {}, alteration % 6, ascendingTriples()});
       for (const WheelSet wheels : {WheelSet{1}, kEveryWheel})
         for (const bool withFix : {false, true}) {
           request.wheelSets = {wheels};
@@ -73,7 +73,7 @@ void addBestWheels(const Archive& archive, Hash& hash) {
   for (const Shape shape : {Shape::OneNumber, Shape::TwoOneWheel, Shape::TwoTwoWheels})
     for (const int wheels : {1, 2, 3}) {
       if (shape == Shape::TwoTwoWheels && wheels == 3) continue;
-      request.formula = formulaInput({shape, wheels, 0, wheels, ascendingTriples()});
+      request.formula = formulaInput({shape, wheels, {}, wheels, ascendingTriples()});
       request.wheelSets = plainWheelSets(wheels);
       request.repeatsAtZeroGetLost = shape == Shape::OneNumber;
       hash.add(searchAmbate(request));
@@ -89,7 +89,7 @@ void addCompanions(const Archive& archive, Hash& hash) {
   request.withFix = true;
   request.keep = 100;
   for (const Shape shape : kShapes) {
-    request.formula = formulaInput({shape, 0, 0, 0, ascendingTriples()});
+    request.formula = formulaInput({shape, 0, {}, 0, ascendingTriples()});
     request.least = 1;
     request.most = 5;
     request.guarded = false;

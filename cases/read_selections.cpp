@@ -1,0 +1,31 @@
+#include "cases/read_selections.h"
+
+#include "cases/detection.h"
+
+namespace trv5 {
+
+void MarcaSelezioniLette(Workbench& w) {
+  const Kind kind = kindOf(w.ComboFiltro.text()).value_or(Kind::Mensile);
+  const bool two = w.Ch_analisi2ruote.checked();
+  const bool numbers = kind == Kind::Numeri;
+  const bool pairs = kind == Kind::Distanza || kind == Kind::Differenza || kind == Kind::Somma;
+  const bool valued = numbers || pairs;
+  const bool period = kind == Kind::Mensile || kind == Kind::Ciclo || kind == Kind::NumPari;
+
+  const auto reads = [](Control& control, bool read) { control.setAside(!read); };
+  reads(w.ComboPar, !two && period);
+  reads(w.ComboR1, !two);
+  reads(w.ComboQNu, !two && valued);
+  reads(w.Ch_ultima, !two && kind == Kind::Mensile);
+  for (const auto& [position, label] : w.LblPN) reads(*label, two ? valued : valued || kind == Kind::NumPari);
+  reads(w.TxtNumeri, valued);
+  // One element looks back among numbers alone, and there only whether it looks back at all.
+  reads(w.ComboRetro, two ? valued : numbers);
+  reads(w.FgRR, two && valued);
+  reads(w.ComboQNR1, two && numbers);
+  reads(w.ComboQNR2, two && numbers);
+  reads(w.ChDDS, two && pairs);
+  reads(w.Ch_ISO, two && valued);
+}
+
+}  // namespace trv5

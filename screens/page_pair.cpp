@@ -1,0 +1,117 @@
+#include "screens/page_pair.h"
+
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStyle>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "screens/bindings.h"
+#include "screens/click_label.h"
+#include "screens/layouts.h"
+#include "screens/theme.h"
+
+namespace trv5 {
+
+PagePair::PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed, QWidget* parent)
+    : QWidget(parent), m_control(control), m_pages(pages) {
+  build(framed);
+  movePages();
+  follow(*m_tabs, m_control, [this] { showFront(); });
+  connect(m_tabs, &QTabWidget::currentChanged, this, [this](int i) {
+    if (i >= 0 && m_tabs->tabBar()->tabData(i).isValid()) m_control.set(m_tabs->tabBar()->tabData(i).toInt());
+  });
+}
+
+void PagePair::build(bool framed) {
+  const auto frame = [framed] {
+    auto* const made = framed ? new Panel : new QFrame;
+    if (auto* const panel = qobject_cast<Panel*>(made)) panel->setBare();
+    return made;
+  };
+  m_tabs = new QTabWidget;
+  m_tabs->setDocumentMode(true);
+  m_tabs->tabBar()->setDrawBase(false);
+  m_tabs->tabBar()->setExpanding(false);
+  m_narrow = frame();
+  if (m_narrow->layout() == nullptr) new QVBoxLayout(m_narrow);
+  m_narrow->layout()->addWidget(m_tabs);
+
+  m_splitter = new QSplitter(Qt::Horizontal);
+  m_splitter->setChildrenCollapsible(false);
+  for (std::size_t i = 0; i < m_sides.size(); ++i) {
+    m_pages[i]->setProperty("page", framed);
+    Side& side = m_sides[i];
+    side.frame = frame();
+    if (side.frame->layout() == nullptr) new QVBoxLayout(side.frame);
+    const auto& [given, caption] = m_control.captions()[i];
+    auto* const heading = new ClickLabel;
+    heading->setText(qs(caption));
+    heading->setProperty("heading", true);
+    heading->setFocusPolicy(Qt::NoFocus);
+    connect(heading, &ClickLabel::clicked, this, [this, given = given] { m_control.set(given); });
+    side.heading = heading;
+    auto* const head = column({row({heading, Piece::gap()}), separator(Qt::Horizontal)});
+    head->setSpacing(0);
+    side.layout = new QVBoxLayout;
+    auto* const all = static_cast<QVBoxLayout*>(side.frame->layout());
+    all->addLayout(head);
+    all->addLayout(side.layout, 1);
+    m_splitter->addWidget(side.frame);
+  }
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_narrow);
+  layout->addWidget(m_splitter);
+}
+
+void PagePair::setSideBySide(bool sideBySide) {
+  if (m_sideBySide == sideBySide) return;
+  m_sideBySide = sideBySide;
+  movePages();
+  showFront();
+}
+
+void PagePair::movePages() {
+  const QSignalBlocker quiet(m_tabs);
+  const QSignalBlocker quietBar(m_tabs->tabBar());
+  while (m_tabs->count() > 0) m_tabs->removeTab(0);
+  for (std::size_t i = 0; i < m_pages.size(); ++i) {
+    const auto& [given, caption] = m_control.captions()[i];
+    if (m_sideBySide) {
+      m_sides[i].layout->addWidget(m_pages[i]);
+      m_pages[i]->show();
+    } else {
+      m_sides[i].layout->removeWidget(m_pages[i]);
+      m_tabs->tabBar()->setTabData(m_tabs->addTab(m_pages[i], qs(caption)), given);
+    }
+  }
+  m_narrow->setVisible(!m_sideBySide);
+  m_splitter->setVisible(m_sideBySide);
+}
+
+void PagePair::showFront() {
+  const int front = m_control.index();
+  const bool other = m_front >= 0 && m_front != front;
+  m_front = front;
+  for (std::size_t i = 0; i < m_pages.size(); ++i) {
+    const bool current = m_control.captions()[i].first == front;
+    QLabel* const heading = m_sides[i].heading;
+    if (heading->property("current").toBool() != current) {
+      heading->setProperty("current", current);
+      heading->style()->unpolish(heading);
+      heading->style()->polish(heading);
+    }
+    if (!current) continue;
+    // Tabs that the user walks with the arrows keep the focus.
+    const bool walking = m_tabs->tabBar()->hasFocus();
+    if (!m_sideBySide) {
+      const QSignalBlocker quiet(m_tabs);
+      m_tabs->setCurrentIndex(static_cast<int>(i));
+    }
+    if (other && !walking && isVisible() && m_pages[i]->focusProxy() != nullptr) m_pages[i]->focusProxy()->setFocus();
+  }
+}
+
+}  // namespace trv5

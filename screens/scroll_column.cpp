@@ -1,0 +1,35 @@
+#include "screens/scroll_column.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+#include "screens/theme.h"
+
+namespace trv5 {
+
+ScrollColumn::ScrollColumn(QWidget* contents, QWidget* parent) : QScrollArea(parent) {
+  setFrameShape(NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setWidget(contents);
+  // The ground of what surrounds it shows through.
+  viewport()->setAutoFillBackground(false);
+  contents->setAutoFillBackground(false);
+}
+
+QSize ScrollColumn::sizeHint() const {
+  return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), 0);
+}
+
+QSize ScrollColumn::minimumSizeHint() const {
+  const int bar = verticalScrollBar()->sizeHint().width();
+  return {widget()->minimumSizeHint().width() + bar, 4 * Theme::current().control()};
+}
+
+bool ScrollColumn::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+}  // namespace trv5
