@@ -263,6 +263,7 @@ void ContainerWindow::layoutParts() {
   m_rail->setGeometry(0, 0, rail, size.height());
   m_area->setGeometry(left, 0, size.width() - left, size.height());
   m_empty->setGeometry(m_area->rect());
+  keepInSight();
   m_rail->raise();
 }
 
@@ -291,6 +292,17 @@ void ContainerWindow::setOpenScreens(std::vector<std::string> names) {
 
 void ContainerWindow::showStatus(const QString& text) {
   m_status->setText(text);
+}
+
+// A window of the area that became smaller must not leave a small screen outside.
+void ContainerWindow::keepInSight() {
+  for (QMdiSubWindow* const window : m_area->subWindowList()) {
+    if (!window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) continue;
+    const int right = std::max(0, m_area->width() - window->width());
+    const int bottom = std::max(0, m_area->height() - window->height());
+    const QPoint place(std::min(window->x(), right), std::min(window->y(), bottom));
+    if (place != window->pos()) window->move(place);
+  }
 }
 
 QMdiSubWindow* ContainerWindow::windowOf(const QWidget& screen) const {

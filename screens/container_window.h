@@ -64,6 +64,7 @@ class ContainerWindow : public QMainWindow {
   void buildStatusBar();
   void buildKeys();
   void layoutParts();
+  void keepInSight();
   void setWide(bool wide);
   QMdiSubWindow* windowOf(const QWidget& screen) const;
 

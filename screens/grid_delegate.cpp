@@ -48,7 +48,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     if (part >= 0.5) behind = bar->second.colour;  // the text stands in the middle
   }
 
-  if (cell.text.empty()) return;
+  if (cell.text.empty() ||
+      (column < m_view.look().evenFrom && r.height() < QFontMetrics(m_view.headingFont()).height()))
+    return;
   // A merged block has its text once, and again at the top of the view when the block begins above it.
   if (m_view.continuesAbove(row, column) && index.row() != m_view.rowAt(0)) return;
   const bool strong = cell.bold || (m_view.look().pad && cell.back != kWhite);
@@ -110,14 +112,17 @@ void GridHeading::paintEvent(QPaintEvent* event) {
   if (!sparse() || count() == 0) return;
   const QFontMetrics metrics(m_view.headingFont());
   int widest = 0;
-  for (int i = 0; i < count(); ++i)
+  const int first = m_view.look().evenFrom;
+  if (count() <= first) return;
+  for (int i = first; i < count(); ++i)
     widest = std::max(widest, metrics.horizontalAdvance(model()->headerData(i, Qt::Horizontal).toString()));
-  const int step = std::max(1, (widest + 8) / std::max(1, sectionSize(0)) + 1);
+  const int step = std::max(1, (widest + 8) / std::max(1, sectionSize(first)) + 1);
   QPainter painter(viewport());
   painter.setFont(m_view.headingFont());
   painter.setPen(toColor(Theme::current().colours().headingText));
-  for (int i = 0; i < count(); i += step) {
+  for (int i = first; i < count(); i += step) {
     const QRect room(sectionViewportPosition(i), 0, sectionSize(i) * step, height() - 1);
+    if (sectionPosition(i) + widest > length()) break;  // it would be cut
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft, model()->headerData(i, Qt::Horizontal).toString());
   }
 }

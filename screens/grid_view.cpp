@@ -56,7 +56,8 @@ void GridView::setLook(GridLook look) {
   const bool keys = m_look.pad || m_look.fixedHeight;
   setSelectionMode(m_look.pad ? NoSelection : ExtendedSelection);
   setVerticalScrollBarPolicy(keys ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
-  setHorizontalScrollBarPolicy(keys || m_look.even ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+  const bool fits = keys || (m_look.even && m_look.minColumn == 0);
+  setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
   followTheme();
 }
 
@@ -135,11 +136,12 @@ std::pair<int, int> GridView::columnSpan(int column) const {
 int GridView::naturalWidth(int column) const {
   const QFontMetrics cells(m_cellFont), headings(m_headingFont);
   int width = cells.horizontalAdvance(u'8');
+  if (column >= m_grid.columns()) return width;  // gone from the grid, not yet from the model
   const QString heading = m_grid.headingRows() > 0 ? qs(m_grid.text(0, column)) : QString();
   const QString sample = static_cast<std::size_t>(column) < m_look.samples.size()
                              ? m_look.samples[static_cast<std::size_t>(column)]
                              : QString();
-  if (m_look.even && m_look.minColumn > 0) return m_look.minColumn;
+  if (m_look.even && m_look.minColumn > 0 && column >= m_look.evenFrom) return m_look.minColumn;
   width = std::max({width, cells.horizontalAdvance(sample),
                     headings.horizontalAdvance(sample.isEmpty() ? heading : heading.trimmed())});
   if (sample.isEmpty() && heading.isEmpty() && m_grid.width(column) > 0)
@@ -151,7 +153,7 @@ int GridView::naturalWidth(int column) const {
 
 int GridView::evenWidth() const {
   int width = 0;
-  for (int column = 0; column < m_model->columnCount(); ++column)
+  for (int column = m_look.evenFrom; column < m_model->columnCount(); ++column)
     if (!isColumnHidden(column)) width = std::max(width, naturalWidth(column));
   return width;
 }
@@ -163,10 +165,15 @@ void GridView::layoutColumns() {
   if (columns.empty()) return;
 
   m_layingOut = true;
-  const int room = viewport()->width();
+  int room = viewport()->width();
   std::vector<int> widths;
   if (m_look.even) {
-    const int count = static_cast<int>(columns.size());
+    for (const int column : columns) {
+      if (column >= m_look.evenFrom) break;
+      widths.push_back(naturalWidth(column));
+      room -= widths.back();
+    }
+    const int count = static_cast<int>(columns.size() - widths.size());
     const int least = evenWidth();
     for (int i = 0; i < count; ++i) widths.push_back(std::max(least, room * (i + 1) / count - room * i / count));
   } else {
@@ -215,7 +222,7 @@ QSize GridView::sizeHint() const {
   int width = 2 * frameWidth();
   const int even = m_look.even ? evenWidth() : 0;
   for (int column = 0; column < m_model->columnCount(); ++column)
-    if (!isColumnHidden(column)) width += m_look.even ? even : naturalWidth(column);
+    if (!isColumnHidden(column)) width += m_look.even && column >= m_look.evenFrom ? even : naturalWidth(column);
   if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) width += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
   const int rows = m_look.pad || m_look.fixedHeight ? visibleRowCount() : 8;
@@ -395,6 +402,7 @@ void GridView::paintEvent(QPaintEvent* event) {
     }
   }
   if (rows == 0) paintEmptyText(painter, bottom);
+  paintLowRows(painter);
   paintFrames(painter);
 }
 
@@ -407,6 +415,23 @@ void GridView::paintEmptyText(QPainter& painter, int top) {
   painter.setFont(m_cellFont);
   painter.setPen(toColor(Theme::current().colours().text2));
   painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text);
+}
+
+// Rows too low for a text leave out the numbers of their head columns; every n-th is written over the rows below it.
+void GridView::paintLowRows(QPainter& painter) {
+  const QFontMetrics metrics(m_headingFont);
+  const int count = m_model->rowCount(), height = count > 0 ? rowHeight(0) : 0;
+  if (m_look.evenFrom == 0 || height == 0 || height >= metrics.height()) return;
+  const int step = metrics.height() / height + 1;
+  painter.setFont(m_headingFont);
+  painter.setPen(toColor(kBlack));
+  for (int row = 0; row < count; row += step) {
+    for (int column = 0; column < m_look.evenFrom; ++column) {
+      const QRect room(columnViewportPosition(column), rowViewportPosition(row), columnWidth(column), height * step);
+      painter.drawText(room, Qt::AlignTop | Qt::AlignHCenter,
+                       m_model->data(m_model->index(row, column), Qt::DisplayRole).toString());
+    }
+  }
 }
 
 // Frames lie over the cells: the paper is white in every theme, so their colours are those of the light one.

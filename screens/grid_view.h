@@ -21,6 +21,7 @@ struct GridLook {
   std::vector<int> heavyAfter = {};  ///< columns followed by a heavier line
   bool pad = false;                  ///< cells are keys: click, drag to paint, Space; no row frame, no selection
   bool even = false;                 ///< all columns equally wide, filling the view
+  int evenFrom = 0;                  ///< the first of the even columns; those before it are as wide as their text
   bool tight = false;                ///< little padding in the cells
   int minColumn = 0;                 ///< least width of an even column in pixels; 0: the widest text
   int minRow = 0, maxRow = 0;        ///< rows stretch with the view between these heights; 0: the theme's row height
@@ -100,6 +101,7 @@ class GridView : public QTableView {
   int evenWidth() const;
   int visibleRowCount() const;
   void paintEmptyText(QPainter& painter, int top);
+  void paintLowRows(QPainter& painter);
   void paintFrames(QPainter& painter);
   QRect rowRect(int modelRow) const;
   std::vector<std::pair<int, int>> chosenCells() const;

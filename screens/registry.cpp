@@ -1,7 +1,11 @@
 #include "core/container.h"
 #include "core/inizio.h"
 #include "engine/open_workbench.h"
+#include "screens/ElencoRiscontri.h"
+#include "screens/Estrazioni_minielenco.h"
+#include "screens/EvoluzioneGrafica.h"
 #include "screens/Sommativi1.h"
+#include "screens/Speciale.h"
 #include "screens/container_window.h"
 #include "screens/inizio_window.h"
 #include "screens/screen.h"
@@ -17,6 +21,11 @@ ScreenEntry entry(std::string name, Place place, QSize size = {}) {
           .size = size,
           .makeForm = [](Program& program) { return std::make_unique<FormType>(program); },
           .makeWidget = [](Form& form) { return new WidgetType(static_cast<FormType&>(form)); }};
+}
+
+ScreenEntry atRight(ScreenEntry made) {
+  made.atRight = true;
+  return made;
 }
 
 template <class FormType>
@@ -41,6 +50,11 @@ std::vector<ScreenEntry> allScreens() {
       loaded<Inizio>(entry<Inizio, InizioWindow>("INIZIO", Place::Window, {860, 400})),
       loaded<Container>(entry<Container, ContainerWindow>("Container", Place::Window, {1920, 1080})),
       workbench(),
+      atRight(loaded<MiniList>(
+          entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {620, 480}))),
+      entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
+      entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed, {1000, 520}),
+      entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
   };
 }
 
