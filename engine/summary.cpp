@@ -4,7 +4,6 @@
 #include <array>
 #include <exception>
 #include <string>
-#include <vector>
 
 #include "engine/hit_rows.h"
 #include "engine/statistics.h"
@@ -38,13 +37,11 @@ void copyHits(Workbench& w, const SummaryKind& kind) {
 }
 
 void appendCasesWithoutHit(Workbench& w) {
-  std::vector<bool> hasHit(static_cast<std::size_t>(w.FgEv.rows()), false);
-  for (int row = 1; row < w.FgZZ.rows(); ++row) {
-    const auto caseRow = static_cast<std::size_t>(w.FgZZ.number(row, kCase));
-    if (caseRow < hasHit.size()) hasHit[caseRow] = true;
-  }
+  CaseFlags CasoConEsito{};
+  for (int row = 1; row < w.FgZZ.rows(); ++row)
+    CasoConEsito.at(static_cast<std::size_t>(w.FgZZ.number(row, kCase))) = true;
   for (int i = 1; i < w.FgEv.rows(); ++i) {
-    if (hasHit[static_cast<std::size_t>(i)]) continue;
+    if (CasoConEsito.at(static_cast<std::size_t>(w.FgEv.number(i, case_column::kProg)))) continue;
     const int row = w.FgZZ.appendRow();
     w.FgZZ.setNumber(row, kCase, i);
     w.FgZZ.setBack(row, kCase, AranciaMedio);
