@@ -16,10 +16,10 @@ check_prefix() {
   cmake --install "$build" --prefix "$folder/prefix" >"$folder/log" || fail "Not installed:" "$(cat "$folder/log")"
   local answers
   answers=$(printf '%s\n' "[\"start\",\"$folder/prefix/bin\"]" '["get","INIZIO","Lbl_Archivio"]' \
-    '["click","INIZIO","Command2"]' '["get","Container","Lbl_Ev"]' '["screens"]' |
+    '["click","INIZIO","Command2"]' '["click","Container","Command4"]' '["screens"]' |
     XDG_DATA_HOME="$folder/data" XDG_CONFIG_HOME="$folder/config" "$folder/prefix/bin/trv5-console") ||
     fail "The installed console failed:" "$answers"
-  [[ $answers == *'Container'* ]] || fail "The shell didn't open:" "$answers"
+  [[ $answers == *'Sommativi1'* ]] || fail "The workbench didn't open:" "$answers"
   [ -s "$folder/data/trv5/DbTRV5.mdb" ] || fail "The user has no main database of his own."
   [ ! -e "$folder/prefix/bin/DbTRV5.mdb" ] || fail "A main database lies beside the installed program."
 }
