@@ -24,6 +24,7 @@ namespace {
 constexpr int kWideRail = 304, kNarrowRail = 52;
 // The area keeps this much beside an open panel; where it can't, the panel lies over it.
 constexpr int kLeastArea = 1228;
+constexpr int kEdgeGap = 8;  // of a small screen at the right edge of the area
 
 struct RailRow {
   const char* control;
@@ -261,9 +262,10 @@ void ContainerWindow::layoutParts() {
   const bool over = m_anyOpen && size.width() - rail < kLeastArea;
   const int left = over ? kNarrowRail : rail;
   m_rail->setGeometry(0, 0, rail, size.height());
+  const int widthBefore = m_area->width();
   m_area->setGeometry(left, 0, size.width() - left, size.height());
   m_empty->setGeometry(m_area->rect());
-  keepInSight();
+  keepInSight(widthBefore);
   m_rail->raise();
 }
 
@@ -294,13 +296,15 @@ void ContainerWindow::showStatus(const QString& text) {
   m_status->setText(text);
 }
 
-// A window of the area that became smaller must not leave a small screen outside.
-void ContainerWindow::keepInSight() {
+// A small screen at the right edge stays there, none is left outside an area that became smaller.
+void ContainerWindow::keepInSight(int widthBefore) {
   for (QMdiSubWindow* const window : m_area->subWindowList()) {
     if (!window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) continue;
     const int right = std::max(0, m_area->width() - window->width());
     const int bottom = std::max(0, m_area->height() - window->height());
-    const QPoint place(std::min(window->x(), right), std::min(window->y(), bottom));
+    const bool atRight = window->x() + window->width() == widthBefore - kEdgeGap;
+    const QPoint place(atRight ? std::max(0, right - kEdgeGap) : std::min(window->x(), right),
+                       std::min(window->y(), bottom));
     if (place != window->pos()) window->move(place);
   }
 }
@@ -324,7 +328,7 @@ void ContainerWindow::place(QWidget& screen, const ScreenEntry& entry) {
                          Qt::WindowStaysOnTopHint);
   window->setWindowIcon(programMark());
   const QSize size = (entry.size.isValid() ? entry.size : screen.sizeHint()).boundedTo(m_area->size());
-  const int left = entry.atRight ? m_area->width() - size.width() - 8 : (m_area->width() - size.width()) / 2;
+  const int left = entry.atRight ? m_area->width() - size.width() - kEdgeGap : (m_area->width() - size.width()) / 2;
   window->resize(size);
   window->move(std::max(0, left), std::max(0, (m_area->height() - size.height()) / 3));
   auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), window);

@@ -64,7 +64,7 @@ class ContainerWindow : public QMainWindow {
   void buildStatusBar();
   void buildKeys();
   void layoutParts();
-  void keepInSight();
+  void keepInSight(int widthBefore);
   void setWide(bool wide);
   QMdiSubWindow* windowOf(const QWidget& screen) const;
 
