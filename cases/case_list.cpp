@@ -5,6 +5,7 @@
 
 #include "cases/case_search.h"
 #include "cases/selections.h"
+#include "core/errors.h"
 #include "core/text.h"
 
 namespace trv5 {
@@ -50,15 +51,13 @@ void paintMap(const Workbench& w, Grid& map) {
   }
 }
 
-}  // namespace
-
-void MostraCaso(Workbench& w, int row) {
-  if (row >= 1 && row < w.FgEv.rows()) w.hs1.set(caseDraw(w, row));
+// The archive may have grown since the reference draw was last moved.
+void moveReference(Workbench& w, int draw) {
+  if (w.hs1.maximum() < w.archive.UltimaEstrazione()) w.hs1.setMaximum(w.archive.UltimaEstrazione());
+  w.hs1.set(draw);
 }
 
-void VisualizzaEstrazione(Workbench& w) {
-  const int row = w.FgEv.current();
-  if (row < 1) return;
+void showCase(Workbench& w, int row) {
   Form& mini = w.shell().show("Estrazioni_minielenco");
   mini.get<Scroll>("hs1").set(caseDraw(w, row));
   mini.get<Button>("Command81").press();  // a scroll bar that stands there already whitens nothing
@@ -68,6 +67,22 @@ void VisualizzaEstrazione(Workbench& w) {
   mini.get<Scroll>("Hs2").set(w.FgEv.number(row, case_column::kDraw2));
   mini.get<Button>("Command1").press();
   paintElement(w.FgEv, row, case_column::kWheel2, mini.get<GridControl>("fG3"));
+}
+
+}  // namespace
+
+void MostraCaso(Workbench& w, int row) {
+  if (row >= 1 && row < w.FgEv.rows()) w.hs1.set(caseDraw(w, row));
+}
+
+void VisualizzaEstrazione(Workbench& w) {
+  const int row = w.FgEv.current();
+  if (row < 1) return;
+  try {
+    showCase(w, row);
+  } catch (const UserError&) {
+    // Looking at a case is no work that could be lost: it ends without a word.
+  }
 }
 
 void MostraMappaCasi(Workbench& w) {
@@ -109,7 +124,7 @@ void RicercaPerData(Workbench& w) {
       w.shell().input({.text = "Ricerca per data GG/MM/AAAA", .title = "Data ?", .placeholder = "GG/MM/AAAA"});
   if (!date || date->empty()) return;
   for (int draw = 1; draw <= w.archive.UltimaEstrazione(); ++draw)
-    if (w.archive.DateEstrazioni(draw) == *date) return w.hs1.set(draw);
+    if (w.archive.DateEstrazioni(draw) == *date) return moveReference(w, draw);
   w.shell().message({.text = "Data non trovata", .title = "Cerca data", .icon = Icon::Information});
 }
 
@@ -119,7 +134,7 @@ void RicercaPerIndice(Workbench& w) {
       w.shell().input({.text = "Inserire il n° indice dell'archivio modello.", .title = "Scelta estrazione"});
   if (!answer) return;
   const int draw = numberOf(*answer);
-  if (draw >= kLowest && draw <= w.archive.UltimaEstrazione()) w.hs1.set(draw);
+  if (draw >= kLowest && draw <= w.archive.UltimaEstrazione()) moveReference(w, draw);
 }
 
 void connectCaseList(Workbench& w) {
@@ -131,7 +146,7 @@ void connectCaseList(Workbench& w) {
   w.button("Command42_0").onEvent([&w] { CambiaEstrazioneRiferimento(w); });
   w.button("Command42_1").onEvent([&w] { RicercaPerData(w); });
   w.button("Command42_2").onEvent([&w] { RicercaPerIndice(w); });
-  w.button("Command42_3").onEvent([&w] { w.hs1.set(w.archive.UltimaEstrazione()); });
+  w.button("Command42_3").onEvent([&w] { moveReference(w, w.archive.UltimaEstrazione()); });
 }
 
 }  // namespace trv5
