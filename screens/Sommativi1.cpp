@@ -62,6 +62,7 @@ Sommativi1::Sommativi1(Workbench& form)
     const int unit = Theme::current().unit();
     parts->setContentsMargins(unit, 0, unit, unit);
   });
+  setFocusPolicy(Qt::ClickFocus);  // no ring before the first key; Tab then starts at the top
   buildKeys();
   orderTabs();
 }
@@ -99,8 +100,7 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
   const int inside = width() - 3 * Theme::current().unit();
   if (name == QLatin1String("righe")) {
     const int high = height() - m_bar->height() - 2 * Theme::current().unit();
-    // Half and half where there is little room; the forecasts then need less than the road to them.
-    return pair(wide ? high * 54 / 100 : high * 56 / 100, high);
+    return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);
   }
   if (name == QLatin1String("sopra")) {
     const int left = wide ? scaled(560 + 570 + 8) : std::max(scaled(540), std::min(scaled(592), inside * 45 / 100));
@@ -112,7 +112,7 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
 }
 
 void Sommativi1::layOut() {
-  const bool wide = width() >= kWide;
+  const bool wide = width() >= scaled(kWide);
   m_bar->setWide(wide);
   m_pages->setSideBySide(wide);
   m_forecasts->setWide(wide);

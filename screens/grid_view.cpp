@@ -148,7 +148,7 @@ int GridView::naturalWidth(int column) const {
     return m_grid.width(column) / 15;  // the grid's own unit is a twentieth of a point, 15 of them a pixel
   if (sample.isEmpty() && heading.isEmpty() && m_grid.hasData())
     width = std::max(width, cells.horizontalAdvance(qs(m_grid.text(m_grid.headingRows(), column))));
-  return width + (m_look.tight ? 5 : Theme::current().unit() + 4);
+  return width + (m_look.tight ? 4 : Theme::current().unit() + 4);
 }
 
 int GridView::evenWidth() const {

@@ -87,7 +87,8 @@ QWidget* Kit::joined(std::initializer_list<std::string_view> names, bool firstSt
     dress(*widget, {.strong = firstStrong && i == 0});
     widget->setFocusPolicy(Qt::StrongFocus);
     const bool first = i == 0, last = i + 1 == names.size();
-    if (!(first && last)) widget->setProperty("joint", QLatin1String(first ? "first" : last ? "last" : "middle"));
+    const char* const joint = first && last ? "only" : first ? "first" : last ? "last" : "middle";
+    widget->setProperty("joint", QLatin1String(joint));
     bind(*widget, control<Button>(name));
     layout->addWidget(widget);
     ++i;
@@ -99,6 +100,7 @@ QWidget* Kit::joined(std::initializer_list<std::string_view> names, bool firstSt
 QToolButton* Kit::key(std::string_view name) {
   auto* const widget = new QToolButton;
   dress(*widget, {.strong = true});
+  widget->setProperty("key", true);
   widget->setFocusPolicy(Qt::StrongFocus);
   bind(*widget, control<Label>(name));
   withTheme(*widget, [widget] { widget->setMinimumWidth(Theme::current().control()); });

@@ -125,6 +125,11 @@ QWidget* holding(QLayout* layout) {
   return widget;
 }
 
+void padAsPage(QWidget& page) {
+  page.setProperty("page", true);
+  page.layout()->setContentsMargins(-1, -1, -1, -1);  // as the style tells, which follows the theme
+}
+
 QFrame* separator(Qt::Orientation orientation) {
   auto* const line = new QFrame;
   line->setProperty("line", true);

@@ -77,6 +77,8 @@ QBoxLayout* column(const std::vector<Piece>& pieces);
 FlowLayout* flow(const std::vector<QWidget*>& widgets);
 /// Puts a layout into a widget of its own, without margins.
 QWidget* holding(QLayout* layout);
+/// Gives the page of a tab, which has a layout, the padding of a panel.
+void padAsPage(QWidget& page);
 /// A line that parts groups.
 QFrame* separator(Qt::Orientation orientation);
 

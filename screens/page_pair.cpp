@@ -41,7 +41,7 @@ void PagePair::build(bool framed) {
   m_splitter = new QSplitter(Qt::Horizontal);
   m_splitter->setChildrenCollapsible(false);
   for (std::size_t i = 0; i < m_sides.size(); ++i) {
-    m_pages[i]->setProperty("page", framed);
+    if (framed) padAsPage(*m_pages[i]);
     Side& side = m_sides[i];
     side.frame = frame();
     if (side.frame->layout() == nullptr) new QVBoxLayout(side.frame);
@@ -74,6 +74,7 @@ void PagePair::setSideBySide(bool sideBySide) {
 }
 
 void PagePair::movePages() {
+  QWidget* const focused = focusWidget();
   const QSignalBlocker quiet(m_tabs);
   const QSignalBlocker quietBar(m_tabs->tabBar());
   while (m_tabs->count() > 0) m_tabs->removeTab(0);
@@ -89,6 +90,7 @@ void PagePair::movePages() {
   }
   m_narrow->setVisible(!m_sideBySide);
   m_splitter->setVisible(m_sideBySide);
+  if (focused != nullptr && focused->isVisibleTo(this)) focused->setFocus();
 }
 
 void PagePair::showFront() {

@@ -23,8 +23,14 @@ QSize ScrollColumn::sizeHint() const {
 }
 
 QSize ScrollColumn::minimumSizeHint() const {
-  const int bar = verticalScrollBar()->sizeHint().width();
-  return {widget()->minimumSizeHint().width() + bar, 4 * Theme::current().control()};
+  const QSize contents = widget()->minimumSizeHint();
+  const int bar = height() < contents.height() ? verticalScrollBar()->sizeHint().width() : 0;
+  return {contents.width() + bar, 4 * Theme::current().control()};
+}
+
+void ScrollColumn::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  updateGeometry();  // the bar comes or goes with the height
 }
 
 bool ScrollColumn::eventFilter(QObject* watched, QEvent* event) {

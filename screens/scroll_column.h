@@ -14,6 +14,7 @@ class ScrollColumn : public QScrollArea {
   QSize minimumSizeHint() const override;
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
 

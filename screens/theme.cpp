@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
 #include <cassert>
@@ -50,6 +51,20 @@ class UnitStyle : public QProxyStyle {
         break;
     }
     return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  // The outline of check boxes and option buttons, which Fusion takes from the ground, is the edge of all controls.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+      QStyleOptionButton edged;
+      if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) edged = *button;
+      edged.QStyleOption::operator=(*option);
+      edged.palette.setColor(QPalette::Window, option->palette.color(QPalette::Mid).lighter(140));
+      QProxyStyle::drawPrimitive(element, &edged, painter, widget);
+      return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -45,7 +45,7 @@ WorkbenchForecasts::WorkbenchForecasts(Workbench& w, QWidget* parent) : Panel({}
                                        groupingTab(w, m_grouping),
                                        informationTab(w),
                                        configurationsTab(w)};
-  for (QWidget* const page : pages) page->setProperty("page", true);
+  for (QWidget* const page : pages) padAsPage(*page);
   QTabWidget* const tabs = kit.tabs("SSTab3", pages);
   body()->addWidget(tabs);
   connect(tabs, &QTabWidget::currentChanged, this,

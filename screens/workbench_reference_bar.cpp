@@ -17,21 +17,26 @@ WorkbenchReferenceBar::WorkbenchReferenceBar(Workbench& w, QWidget* parent) : QW
   ClickLabel* const colpiCaption = kit.clickLabel("Label1_1", Type::Hint, 'p');
   colpiCaption->setBuddy(colpi);
 
+  const auto part = [] {
+    QFrame* const line = separator(Qt::Vertical);
+    withTheme(*line, [line] { line->setFixedHeight(Theme::current().control() - 4); });
+    return line;
+  };
   QBoxLayout* const bar = row({command("Command42_0", "reload"),
                                kit.label("LabelRifE", Type::Title),
                                {draw, 1},
                                command("Command42_1", "calendar"),
                                command("Command42_2", "hash"),
                                command("Command42_3", "to_end"),
-                               separator(Qt::Vertical),
+                               part(),
                                kit.clickLabel("Label1_0", Type::Hint),
                                wheels,
                                m_swatches[0],
                                m_swatches[1],
-                               separator(Qt::Vertical),
+                               part(),
                                colpiCaption,
                                colpi,
-                               separator(Qt::Vertical),
+                               part(),
                                kit.button("Command87", {.icon = "reload"}),
                                command("Command70", "help")});
   setLayout(bar);

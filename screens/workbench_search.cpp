@@ -81,12 +81,8 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
 }
 
 QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
-  std::vector<Piece> pieces;
-  for (QWidget* const group : groups) {
-    pieces.emplace_back(group);
-    pieces.push_back(Piece::space());
-  }
-  pieces.back() = Piece::gap();
+  std::vector<Piece> pieces(groups.begin(), groups.end());
+  pieces.push_back(Piece::gap());
   if (counts != nullptr) pieces.emplace_back(counts);
   QWidget* const made = holding(row(pieces));
   for (auto* const button : made->findChildren<QAbstractButton*>()) button->installEventFilter(this);

@@ -17,10 +17,12 @@ QLayout* numbersColumn(Kit& kit) {
   GridView* const pad = kit.grid("FgNu", {.samples = std::vector<QString>(10, QStringLiteral("88")),
                                           .pad = true,
                                           .even = true,
+                                          .tight = true,
                                           .minRow = 22,
                                           .maxRow = 34});
   pad->setAccessibleName(QStringLiteral("Numeri"));
-  return column({row(positions), {pad, 1}});
+  withTheme(*pad, [pad] { pad->setMaximumHeight(pad->grid().rows() * pad->look().maxRow + 2 * pad->frameWidth()); });
+  return column({row(positions), {pad, 1000}, Piece::gap()});
 }
 
 QLayout* wheelsColumn(Kit& kit) {
@@ -30,25 +32,27 @@ QLayout* wheelsColumn(Kit& kit) {
       QStringLiteral("Per utilizzare rilevazioni su 2 ruote si deve spuntare la check box Analisi su ruote qui sotto"),
       Type::Small);
   note->setWordWrap(true);
-  note->setProperty("type", QStringLiteral("small"));
   QLineEdit* const numbers = kit.edit("TxtNumeri", {}, true);
-  numbers->setPlaceholderText(QStringLiteral("01-30-60-90"));
+  numbers->setPlaceholderText(QStringLiteral("es. 01-30-60-90"));
   numbers->setAccessibleName(QStringLiteral("Numeri della situazione"));
   QComboBox* const value = kit.combo("ComboValF", QStringLiteral("8"));
   value->setAccessibleName(QStringLiteral("Valore di decina, cadenza o figura"));
-  return column({row({kit.joined({"Command24", "Command25", "Command26"}, false), value, Piece::gap(),
-                      kit.button("Command8", {.kind = Kind::Quiet})}),
-                 Piece::gap(), row({{numbers, 1}, kit.button("Command6", {.mnemonic = 'O'})}), Piece::gap(), note,
-                 Piece::gap(),
-                 row({kit.check("Ch_analisi2ruote"), Piece::gap(),
-                      captioned("Retro", kit.combo("ComboRetro", QStringLiteral("88")))}),
-                 Piece::gap(),
-                 row({Kit::text(QStringLiteral("Ruote rilevazione"), Type::Hint), Piece::gap(),
-                      kit.swatch("Label4", Verde, false), kit.swatch("Label19", kWhite, false)}),
-                 wheels, Piece::gap(),
-                 row({captioned("QN R1", kit.combo("ComboQNR1", QStringLiteral("8"))), Piece::gap(),
-                      captioned("QN R2", kit.combo("ComboQNR2", QStringLiteral("8")))}),
-                 Piece::gap(), row({kit.check("ChDDS"), Piece::gap(), kit.check("Ch_ISO")})});
+  QBoxLayout* const rows = column({row({kit.joined({"Command24", "Command25", "Command26"}, false), value, Piece::gap(),
+                                        kit.button("Command8", {.kind = Kind::Quiet})}),
+                                   Piece::gap(), row({{numbers, 1}, kit.button("Command6", {.mnemonic = 'O'})}),
+                                   Piece::gap(), note, Piece::gap(),
+                                   row({kit.check("Ch_analisi2ruote"), Piece::gap(),
+                                        captioned("Retro", kit.combo("ComboRetro", QStringLiteral("88")))}),
+                                   Piece::gap(),
+                                   row({Kit::text(QStringLiteral("Ruote rilevazione"), Type::Hint), Piece::gap(),
+                                        kit.swatch("Label4", Verde, false), kit.swatch("Label19", kWhite, false)}),
+                                   wheels, Piece::gap(),
+                                   row({captioned("QN R1", kit.combo("ComboQNR1", QStringLiteral("8"))), Piece::gap(),
+                                        captioned("QN R2", kit.combo("ComboQNR2", QStringLiteral("8")))}),
+                                   Piece::gap(), row({kit.check("ChDDS"), Piece::gap(), kit.check("Ch_ISO")})});
+  // Nine rows of numbers beside eight of these: they move together before anything has to scroll.
+  withTheme(*wheels, [rows] { rows->setSpacing(Theme::current().unit() / 3); });
+  return rows;
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace trv5 {
 namespace {
 
 // A formula is read best in a table no wider than this many figures.
-constexpr int kFormulaFigures = 61;
+constexpr int kFormulaFigures = 69;
 
 std::vector<QString> formulaSamples() {
   const QString two = QStringLiteral("88"), wheel = QStringLiteral("MI"), none;

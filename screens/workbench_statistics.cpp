@@ -55,6 +55,7 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
     : Panel({}, parent),
       m_counts(nullptr),
       m_bars(nullptr),
+      m_countsHolder(nullptr),
       m_legend(legend()),
       m_title(Kit::text(QStringLiteral("Statistiche"), Type::Title)),
       m_grid(new QGridLayout) {
@@ -63,6 +64,7 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
   m_bars = kit.grid("Fg_Graf");
   m_counts->setAccessibleName(m_title->text());
   m_bars->setAccessibleName(m_title->text());
+  m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
   body()->addLayout(m_grid, 1);
   arrange();
   connect(&Theme::current(), &Theme::changed, this, &WorkbenchStatistics::arrange);
@@ -75,8 +77,7 @@ void WorkbenchStatistics::setWide(bool wide) {
 }
 
 void WorkbenchStatistics::arrange() {
-  for (QWidget* const part :
-       {static_cast<QWidget*>(m_title), static_cast<QWidget*>(m_counts), static_cast<QWidget*>(m_bars), m_legend})
+  for (QWidget* const part : {static_cast<QWidget*>(m_title), m_countsHolder, static_cast<QWidget*>(m_bars), m_legend})
     m_grid->removeWidget(part);
   // Where it is narrow the two grids fill it to its edges: no panel around them.
   setProperty("panel", m_wide);
@@ -94,21 +95,22 @@ void WorkbenchStatistics::arrange() {
     counts.maxRow = line * 7 / 4;
     bars.minRow = bars.maxRow = line * 54 / 19;
     m_grid->addWidget(m_title, 0, 0, 1, 2);
-    m_grid->addWidget(m_counts, 1, 0, 2, 1);
+    m_grid->addWidget(m_countsHolder, 1, 0, 2, 1);
     m_grid->addWidget(m_bars, 1, 1, Qt::AlignTop);
     m_grid->addWidget(m_legend, 2, 1);
   } else {
     counts.fixedHeight = true;
-    bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("888.8")};
+    bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("8888.88")};
     bars.tight = true;
-    m_grid->addWidget(m_counts, 0, 0);
+    m_grid->addWidget(m_countsHolder, 0, 0);
     m_grid->addWidget(m_bars, 1, 0, Qt::AlignBottom);
   }
   m_grid->setRowStretch(1, m_wide ? 0 : 1);
   m_grid->setRowStretch(2, m_wide ? 1 : 0);
   m_grid->setColumnStretch(1, m_wide ? 1 : 0);
   m_counts->setMinimumHeight(0);
-  m_counts->setMaximumHeight(QWIDGETSIZE_MAX);
+  m_counts->setMaximumHeight(m_wide ? m_counts->grid().rows() * counts.maxRow + 2 * m_counts->frameWidth()
+                                    : QWIDGETSIZE_MAX);
   m_counts->setMaximumWidth(m_wide ? 18 * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8')
                                    : QWIDGETSIZE_MAX);
   m_counts->setLook(counts);

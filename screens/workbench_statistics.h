@@ -22,7 +22,7 @@ class WorkbenchStatistics : public Panel {
   void arrange();
 
   GridView *m_counts, *m_bars;
-  QWidget* m_legend;
+  QWidget *m_countsHolder, *m_legend;
   QLabel* m_title;
   QGridLayout* m_grid;
   bool m_wide = false;

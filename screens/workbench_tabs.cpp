@@ -43,12 +43,16 @@ const QString kNumber = QStringLiteral("88");
 
 QWidget* summaryTab(Workbench& w) {
   Kit kit(w);
+  // The grid has the whole tab for itself: wider columns share the room better than one wide last column.
+  std::vector<QString> samples = hitSamples();
+  for (QString& sample : samples)
+    if (!sample.isEmpty()) sample.prepend(sample.size() < 5 ? QStringLiteral("888") : QString());
   return pageOf(
       {row({kit.check("ChA"), kit.check("ChB"), kit.check("ChC"), Piece::space(), separator(Qt::Vertical),
             Piece::space(), kit.check("Ch1esito"), Piece::gap(),
             kit.button("Command86", {.kind = Kind::Primary, .icon = "play"}), quiet(kit, "Command96", "print"),
             quiet(kit, "Command98", "copy"), quiet(kit, "Command97", "broom")}),
-       {kit.grid("FgZZ", {.samples = hitSamples()}), 1}});
+       {kit.grid("FgZZ", {.samples = samples}), 1}});
 }
 
 QWidget* liveForecastsTab(Workbench& w) {
