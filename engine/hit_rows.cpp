@@ -33,8 +33,7 @@ void appendHits(const Workbench& w, Grid& target, int caseRow, const Hits& hits,
     } else {
       target.setNumber(row, kRow, hit.count);
     }
-    for (int i = 0; i < 5 && hit.numbers[static_cast<std::size_t>(i)] != 0; ++i)
-      target.setNumber(row, kNumbers + i, hit.numbers[static_cast<std::size_t>(i)]);
+    for (int i = 0; i < hit.named; ++i) target.setNumber(row, kNumbers + i, hit.numbers[static_cast<std::size_t>(i)]);
     target.setNumber(row, kWheel, hit.wheel);
     target.setText(row, kWheelCode, CodiciRuote[static_cast<std::size_t>(hit.wheel)]);
     target.setNumber(row, kColpo, hit.draw - start);

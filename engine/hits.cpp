@@ -51,7 +51,8 @@ class SetPlayer {
     forEachWheel(m_archive, m_case, m_window, [&](int draw, int wheel, const std::uint8_t* drawn) {
       const unsigned matched = matchedPositions(drawn, inSet);
       if (quantity(matched) < static_cast<int>(m_lists.size())) return;
-      m_hits.push_back({draw, wheel, m_set, matched, quantity(matched), ++hitsOfSet > 1});
+      const int size = static_cast<int>(m_lists.size());
+      m_hits.push_back({draw, wheel, m_set, size, matched, quantity(matched), ++hitsOfSet > 1});
     });
   }
 
@@ -69,7 +70,7 @@ Hits hitsOfNumbers(const Archive& archive, int caseDraw, const PlayWindow& windo
   Hits hits;
   forEachWheel(archive, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
     for (unsigned k = 0; k < kPositions; ++k)
-      if (drawn[k] != 0 && inPlay[drawn[k]]) hits.push_back({draw, wheel, {drawn[k]}, 1U << k, 1, !hits.empty()});
+      if (drawn[k] != 0 && inPlay[drawn[k]]) hits.push_back({draw, wheel, {drawn[k]}, 1, 1U << k, 1, !hits.empty()});
   });
   return hits;
 }
@@ -84,10 +85,9 @@ Hits hitsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window, c
   forEachWheel(archive, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
     const unsigned matched = matchedPositions(drawn, inPlay);
     if (matched == 0 || quantity(matched) < wanted) return;
-    Hit hit{draw, wheel, {}, matched, quantity(matched), !hits.empty()};
-    std::size_t next = 0;
+    Hit hit{draw, wheel, {}, 0, matched, quantity(matched), !hits.empty()};
     for (unsigned k = 0; k < kPositions; ++k)
-      if ((matched >> k & 1U) != 0) hit.numbers[next++] = drawn[k];
+      if ((matched >> k & 1U) != 0) hit.numbers[static_cast<std::size_t>(hit.named++)] = drawn[k];
     hits.push_back(hit);
   });
   return hits;

@@ -20,7 +20,8 @@ struct PlayWindow {
 struct Hit {
   int draw = 0;
   int wheel = 0;
-  std::array<std::uint8_t, 5> numbers{};  ///< G1..G5: what the hit row names, 0 = none
+  std::array<std::uint8_t, 5> numbers{};  ///< G1..G5: what the hit row names; a set may hold a 0
+  int named = 0;                          ///< how many of them
   unsigned matched = 0;                   ///< bit p - 1 stands for position p of the wheel
   int count = 0;                          ///< drawn numbers that were in play
   bool repeat = false;                    ///< not the first hit of its set of numbers in this case
