@@ -174,12 +174,14 @@ class Run {
         continue;
       }
       const bool added = accepts() && !isBlank(m_w.FgF, row);
-      if (!byTables)
+      if (!byTables) {
         countInSequence(row, added);
-      else if (added)
+      } else if (added) {
         m_counts = texts(tables->candidate(m_w.FgF, row));
-      else if (m_rowsBefore > 1)
+        leaveInRecord(row);
+      } else if (m_rowsBefore > 1) {
         m_counts = texts(tables->tableAlone());
+      }
       writeCounts(row);
     }
     if (m_w.FgF.hasData()) m_w.FgF.setCurrent(m_w.FgF.rows() - 1, m_w.FgF.currentColumn());
@@ -270,6 +272,13 @@ class Run {
     if (numberOf(m_counts.covered) != m_w.FgF.number(row, kCc)) m_w.FgF.setBack(row, kCc, VerdeMedio);
     m_w.FgF.setText(row, kCc, m_counts.covered);
     m_w.FgF.setText(row, kPres, m_counts.hits);
+  }
+
+  // What the candidate's verification leaves in the shared record where no later formula writes: that of its last case.
+  void leaveInRecord(int row) {
+    caricaParametri(m_w.FgF, row, m_w.Formula);
+    m_w.Formula.Estr = caseDraw(m_w, m_w.FgEv.rows() - 1);
+    OttieneNumero(m_w.archive, m_w.Formula);
   }
 
   // Evaluates all formulas as often and in the order in which the verifications would, since a formula may hang on the
