@@ -44,6 +44,9 @@ PlainWorkbench::PlainWorkbench(const Workbench& w)
       archive(w.archive),
       sorteChosen(w.ComboSorte.index() + 1),
       ownWheels(w.Check3.checked()),
+      onlyUncovered(w.Ch_Scoperti.checked()),
+      automatic(w.ChVerifica.checked()),
+      time(timeText(w.shell().now())),
       FgRG(grids.at("FgRG")),
       FgEv(grids.at("FgEv")),
       FgSSS(grids.at("FgSSS")),
@@ -59,7 +62,8 @@ PlainWorkbench::PlainWorkbench(const Workbench& w)
       FgZ100(grids.at("FgZ100")),
       Fg15(grids.at("Fg15")),
       Fg_Stat(grids.at("Fg_Stat")),
-      Fg_Graf(grids.at("Fg_Graf")) {}
+      Fg_Graf(grids.at("Fg_Graf")),
+      Fg99(grids.at("Fg99")) {}
 
 PlainWorkbench::Kind PlainWorkbench::kindOf(int code) {
   if (code == 1) return {1, Fg11, FgZ1, 17, 0, "1N"};

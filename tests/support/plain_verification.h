@@ -20,6 +20,8 @@ class PlainWorkbench : public WorkbenchSnapshot {
   void tutteLeRighe(int kind);  ///< kind 1, 2, 3, 6
   void perCc(int kind);         ///< kind 2, 3, 6
   void oltreLimite(int kind);
+  void Cmd_LaSorte(int kind);
+  void CC(int kind);  ///< kind 2, 3, 6
   void Cmd_Elabora100();
   void RicavaElementiReali();
   void ContaEsitix();
@@ -30,10 +32,13 @@ class PlainWorkbench : public WorkbenchSnapshot {
   std::vector<std::string> messages;
 
   const Archive& archive;
-  int sorteChosen;  ///< list index of `ComboSorte` + 1, which is also its text
-  bool ownWheels;   ///< `Check3`
+  int sorteChosen;     ///< list index of `ComboSorte` + 1, which is also its text
+  bool ownWheels;      ///< `Check3`
+  bool onlyUncovered;  ///< `Ch_Scoperti`
+  bool automatic;      ///< `ChVerifica`
+  std::string time;    ///< what `List1` shows of the present moment
   Grid &FgRG, &FgEv, &FgSSS, &FgF, &Fg11, &Fg22, &Fg33, &Fg00;
-  Grid &FgZ1, &FgZ2, &FgZ3, &FgZ0, &FgZ100, &Fg15, &Fg_Stat, &Fg_Graf;
+  Grid &FgZ1, &FgZ2, &FgZ3, &FgZ0, &FgZ100, &Fg15, &Fg_Stat, &Fg_Graf, &Fg99;
 
  private:
   struct Kind;
