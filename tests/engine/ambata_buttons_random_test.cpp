@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,10 @@ struct Rules {
   std::string op, nr, qn;  // what stands in columns 10, 14, 15; "?": the chosen operator
   int settings;
 };
+
+void PrintTo(const Rules& value, std::ostream* out) {
+  *out << value.button;
+}
 
 const std::vector<Rules> kRules = {{"Command20", Shape::OneNumber, 0, "", "1", "1", 600},
                                    {"Command11", Shape::OneNumber, 1, "", "1", "1", 150},

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,10 @@ struct CcButton {
   const char* button;
   int kind;
 };
+
+void PrintTo(const CcButton& value, std::ostream* out) {
+  *out << value.button;
+}
 
 // Formulas whose value doesn't hang on the evaluation before, which is what candidates are counted quickly by.
 void mendUnknownTexts(Grid& table) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,10 @@ struct Kind {
   GridControl Workbench::*emptied;
   int column;
 };
+
+void PrintTo(const Kind& value, std::ostream* out) {
+  *out << value.cc;
+}
 
 const std::vector<Kind> kKinds = {
     {2, "Command64", "Command34", &Workbench::Fg22, &Workbench::FgZ2, &Workbench::FgZ2, 18},

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,10 @@ struct Table {
   int column;
   int capacity;
 };
+
+void PrintTo(const Table& value, std::ostream* out) {
+  *out << value.all;
+}
 
 const std::vector<Table> kTables = {
     {1, 0, "Command29", "Command32", "Command19", &Workbench::Fg11, &Workbench::FgZ1, 17, 5},

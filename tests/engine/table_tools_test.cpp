@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,10 @@ struct Tools {
   GridControl Workbench::*grid;
   const char *print, *copy, *clean;
 };
+
+void PrintTo(const Tools& value, std::ostream* out) {
+  *out << value.print;
+}
 
 const std::vector<Tools> kTools = {{&Workbench::FgZ1, "Stampa_FgZ1", "Copia_FgZ1", "Command75"},
                                    {&Workbench::FgZ2, "Stampa_FgZ2", "Copia_FgZ2", "Pulisce_FgZ2"},

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,10 @@ struct PlainRun {
   const char* button;
   void (*plain)(PlainWorkbench&);
 };
+
+void PrintTo(const PlainRun& value, std::ostream* out) {
+  *out << value.button;
+}
 
 const std::vector<PlainRun> kRuns = {{"Command29", [](PlainWorkbench& p) { p.tutteLeRighe(1); }},
                                      {"Command34", [](PlainWorkbench& p) { p.tutteLeRighe(2); }},
