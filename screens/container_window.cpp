@@ -24,6 +24,7 @@ namespace {
 constexpr int kWideRail = 304, kNarrowRail = 52;
 // The area keeps this much beside an open panel; where it can't, the panel lies over it.
 constexpr int kLeastArea = 1228;
+constexpr double kUsualPoints = 10.5;
 constexpr int kEdgeGap = 8;  // of a small screen at the right edge of the area
 
 struct RailRow {
@@ -327,7 +328,9 @@ void ContainerWindow::place(QWidget& screen, const ScreenEntry& entry) {
   window->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                          Qt::WindowStaysOnTopHint);
   window->setWindowIcon(programMark());
-  const QSize size = (entry.size.isValid() ? entry.size : screen.sizeHint()).boundedTo(m_area->size());
+  // Natural sizes are told for the usual font.
+  const QSize natural = entry.size * std::max(1.0, Theme::current().basePoints() / kUsualPoints);
+  const QSize size = (entry.size.isValid() ? natural : screen.sizeHint()).boundedTo(m_area->size());
   const int left = entry.atRight ? m_area->width() - size.width() - kEdgeGap : (m_area->width() - size.width()) / 2;
   window->resize(size);
   window->move(std::max(0, left), std::max(0, (m_area->height() - size.height()) / 3));

@@ -12,6 +12,7 @@
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "screens/EvoluzioneGrafica.h"
+#include "screens/theme.h"
 #include "window_world.h"
 
 namespace trv5 {
@@ -105,6 +106,15 @@ TEST(MiniListScreen, ShowsTwoEqualPanels) {
   EXPECT_EQ(left.height(), right.height());
   EXPECT_EQ(left.verticalScrollBar()->maximum(), 0) << "all eleven wheels are in sight";
   EXPECT_LT(left.mapToGlobal(QPoint()).x(), right.mapToGlobal(QPoint()).x());
+}
+
+TEST(MiniListScreen, ShowsAllWheelsWithALargeFontToo) {
+  SmallScreensWorld world;
+  Theme::edit().setBasePoints(14);
+  world.shell.show("Estrazioni_minielenco");
+  settle();
+  EXPECT_EQ(world.view("Estrazioni_minielenco", "fG2").verticalScrollBar()->maximum(), 0);
+  Theme::edit().setBasePoints(0);
 }
 
 TEST(MiniListScreen, AClickMarksANumberOnTheLeftOnly) {
