@@ -1,10 +1,13 @@
 // The lines that need the windows as the user sees them: keys, focus, pictures.
 #include <fmt/format.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QScreen>
 #include <QTest>
+#include <algorithm>
 
 #include "console/arguments.h"
 #include "console/console.h"
@@ -22,6 +25,19 @@ void settle() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
   }
+}
+
+// A mnemonic holds its button down for a moment before it clicks.
+void waitForPressedButtons() {
+  const auto held = [] {
+    const QWidgetList widgets = QApplication::allWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+      const auto* const button = qobject_cast<const QAbstractButton*>(widget);
+      return button != nullptr && button->isDown();
+    });
+  };
+  for (const QDeadlineTimer limit(2000); held() && !limit.hasExpired();)
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
 }
 
 // Where a script wants to see a screen; sizes are those of its window.
@@ -75,6 +91,7 @@ std::string Console::key(const Arguments& line) {
   // An operation behind the key may close the widget's window: it dies only after this.
   QTest::sendKeyEvent(QTest::Click, found.widget, press->key, press->text, press->modifiers);
   settle();
+  waitForPressedButtons();
   return {};
 }
 

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -47,6 +48,22 @@ void setType(QWidget& widget, Type type) {
 QChar letter(char mnemonic) {
   return mnemonic == 0 ? QChar() : QChar(QLatin1Char(mnemonic));
 }
+
+// Qt moves a lying scroll bar to the right with the left arrow key.
+class ArrowScrollBar : public QScrollBar {
+ public:
+  using QScrollBar::QScrollBar;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Left && event->modifiers() == Qt::NoModifier)
+      triggerAction(SliderSingleStepSub);
+    else if (event->key() == Qt::Key_Right && event->modifiers() == Qt::NoModifier)
+      triggerAction(SliderSingleStepAdd);
+    else
+      QScrollBar::keyPressEvent(event);
+  }
+};
 
 }  // namespace
 
@@ -176,7 +193,7 @@ QLineEdit* Kit::edit(std::string_view name, const QString& widest, bool clearBut
 }
 
 QScrollBar* Kit::scroll(std::string_view name) {
-  auto* const widget = new QScrollBar(Qt::Horizontal);
+  auto* const widget = new ArrowScrollBar(Qt::Horizontal);
   widget->setFocusPolicy(Qt::StrongFocus);
   bind(*widget, control<Scroll>(name));
   return widget;

@@ -414,10 +414,10 @@ TEST_F(ConsoleTest, TakesPicturesInTheSizeScaleAndThemeAskedFor) {
   does("shot", "INIZIO", file, json{{"width", 900}, {"height", 1000}, {"dark", true}, {"points", 12}});
   const QImage dark(qs(file));
   EXPECT_EQ(dark.size(), QSize(900, 1000));
-  EXPECT_EQ(dark.pixel(2, 990) & 0xFFFFFFU, kDarkColours.window);
+  EXPECT_EQ(dark.pixel(2, 990) & 0xFFFFFFU, kDarkColours.field);
   does("shot", "INIZIO", file);
   EXPECT_EQ(QImage(qs(file)).size(), QSize(700, 900)) << "as before";
-  EXPECT_EQ(QImage(qs(file)).pixel(2, 890) & 0xFFFFFFU, kLightColours.window);
+  EXPECT_EQ(QImage(qs(file)).pixel(2, 890) & 0xFFFFFFU, kLightColours.field);
   refuses("shot", "INIZIO", (world.folder / "manca" / "foto.png").string());
   refuses("shot", "INIZIO", file, json{{"colore", "rosso"}});
 }

@@ -2,11 +2,12 @@
 
 #include <QApplication>
 
+#include "console/offscreen_platform.h"
 #include "screens/theme.h"
 
 // Tests that run the console in their own process need Qt; those that start the program don't mind.
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const trv5::OffscreenPlatform platform;
   QApplication app(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   trv5::Theme theme(app);
