@@ -10,6 +10,7 @@
 #include "engine/random_method.h"
 #include "engine/random_search.h"
 #include "support/plain_search.h"
+#include "support/random_runs.h"
 #include "support/workbench_snapshot.h"
 
 namespace trv5 {
@@ -177,7 +178,7 @@ class AmbataButtons : public testing::TestWithParam<Rules> {};
 TEST_P(AmbataButtons, LeaveWhatTheStepsLeaveOnRandomMethods) {
   const Rules& rules = GetParam();
   const int perWorld = 20;
-  for (unsigned seed = 1; seed <= static_cast<unsigned>(rules.settings / perWorld); ++seed) {
+  for (unsigned seed = 1; seed <= static_cast<unsigned>(randomRuns(rules.settings / perWorld)); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 rng(seed * 100 + static_cast<unsigned>(rules.settings));
     WorkbenchWorld world(randomMethodArchive(rng));

@@ -3,6 +3,7 @@
 #include "engine/random_search.h"
 #include "support/archive_builder.h"
 #include "support/print_candidate.h"
+#include "support/random_runs.h"
 
 namespace trv5 {
 namespace {
@@ -31,7 +32,7 @@ void compareOnSeed(unsigned seed, Shape shape, const std::vector<WheelSet>& whee
 }
 
 void compare(Shape shape, const std::vector<WheelSet>& wheelSets, unsigned firstSeed) {
-  for (unsigned seed = firstSeed; seed < firstSeed + 25; ++seed) {
+  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(25)); ++seed) {
     compareOnSeed(seed, shape, wheelSets, 40);
     if (testing::Test::HasFatalFailure()) return;
   }
@@ -64,7 +65,7 @@ TEST(BestWheelSearch, OfTwoNumbersOnTwoWheelsOnPairsOfWheelsAgreesWithThePlainCo
 }
 
 TEST(BestWheelSearch, TakesAnyNumberOfAnySetsOfWheels) {
-  for (unsigned seed = 29000; seed < 29200; ++seed) {
+  for (unsigned seed = 29000; seed < 29000 + static_cast<unsigned>(randomRuns(200)); ++seed) {
     std::mt19937 rng(seed);
     std::vector<WheelSet> wheelSets(static_cast<std::size_t>(2 + below(rng, 40)));
     for (WheelSet& set : wheelSets) set = randomWheelSet(rng);

@@ -3,6 +3,7 @@
 #include "engine/random_search.h"
 #include "support/archive_builder.h"
 #include "support/print_candidate.h"
+#include "support/random_runs.h"
 
 namespace trv5 {
 namespace {
@@ -21,7 +22,7 @@ void compareOnSeed(unsigned seed, Shape shape, int settings) {
 }
 
 void compare(Shape shape, unsigned firstSeed) {
-  for (unsigned seed = firstSeed; seed < firstSeed + 100; ++seed) {
+  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(100)); ++seed) {
     compareOnSeed(seed, shape, 30);  // ambo, terno and lunghetta take turns at random
     if (testing::Test::HasFatalFailure()) return;
   }

@@ -16,6 +16,7 @@
 #include "engine/random_search.h"
 #include "engine/verified_method.h"
 #include "support/plain_search.h"
+#include "support/random_runs.h"
 #include "support/workbench_snapshot.h"
 
 namespace trv5 {
@@ -124,7 +125,7 @@ void plainCompanions(Workbench& w, int sorte) {
 
 void agrees(unsigned firstSeed, int seeds, const std::vector<const char*>& names,
             const std::function<void(Workbench&, const std::string&)>& plain) {
-  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(seeds); ++seed) {
+  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(seeds)); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 rng(seed);
     const Archive archive = randomMethodArchive(rng);

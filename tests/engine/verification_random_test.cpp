@@ -7,6 +7,7 @@
 #include "engine/random_method.h"
 #include "engine/random_search.h"
 #include "support/plain_verification.h"
+#include "support/random_runs.h"
 
 namespace trv5 {
 namespace {
@@ -49,7 +50,7 @@ class Verification : public testing::TestWithParam<PlainRun> {};
 
 // One workbench goes through many settings, so that each begins with what the one before left.
 TEST_P(Verification, AgreesWithThePlainRunOnRandomMethods) {
-  for (unsigned seed = 1; seed <= 50; ++seed) {
+  for (unsigned seed = 1; seed <= static_cast<unsigned>(randomRuns(50)); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 rng(seed);
     WorkbenchWorld world(randomMethodArchive(rng));
@@ -65,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(OfEveryButton, Verification, testing::ValuesIn(kRuns),
                          [](const auto& run) { return run.param.button; });
 
 TEST(Verifications, AgreeWithThePlainRunsOneAfterTheOtherInAnyOrder) {
-  for (unsigned seed = 1; seed <= 50; ++seed) {
+  for (unsigned seed = 1; seed <= static_cast<unsigned>(randomRuns(50)); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 rng(seed);
     WorkbenchWorld world(randomMethodArchive(rng));
