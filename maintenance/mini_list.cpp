@@ -125,7 +125,7 @@ void CercaPerData(MiniList& list) {
     // The place in the model archive, not the draw that stands there: the same where the model begins at draw 1.
     return moveTo(list, i);
   }
-  list.shell().message({.text = "Data non trovata", .title = "Cerca data", .icon = Icon::Information});
+  list.shell().message({.text = "Data non trovata", .title = "Cerca data"});
 }
 
 }  // namespace trv5
