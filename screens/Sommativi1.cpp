@@ -54,10 +54,16 @@ Sommativi1::Sommativi1(Workbench& form)
 
   auto* const parts = new QVBoxLayout(this);
   parts->setSpacing(0);
+  parts->setSizeConstraint(QLayout::SetNoConstraint);  // what it needs depends on the layout that the size asks for
   parts->addWidget(m_bar);
   parts->addWidget(m_rows, 1);
   connect(m_forecasts, &WorkbenchForecasts::tabInFront, m_search, &WorkbenchSearch::followTab);
-  connect(&Theme::current(), &Theme::changed, this, &Sommativi1::layOut, Qt::QueuedConnection);
+  // Once all parts have the new font: what they need decides what the handles can do.
+  const auto again = [this] {
+    m_laidOut.clear();
+    layOut();
+  };
+  connect(&Theme::current(), &Theme::changed, this, again, Qt::QueuedConnection);
   withTheme(*this, [parts] {
     const int unit = Theme::current().unit();
     parts->setContentsMargins(unit, 0, unit, unit);
@@ -103,11 +109,14 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
     return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);
   }
   if (name == QLatin1String("sopra")) {
-    const int left = wide ? scaled(560 + 570 + 8) : std::max(scaled(540), std::min(scaled(592), inside * 45 / 100));
+    // The candidates want the width of their buttons in one line.
+    const int left = wide ? std::min(scaled(560 + 570 + 8), inside - scaled(600))
+                          : std::max(scaled(540), std::min(scaled(592), inside * 45 / 100));
     return pair(left, inside);
   }
-  if (name == QLatin1String("pagine")) return pair(scaled(560), scaled(560 + 570));
-  const int right = wide ? scaled(560) : std::min(scaled(196), inside * 15 / 100);
+  if (name == QLatin1String("pagine")) return pair(scaled(560), m_pages->width());
+  // The forecasts want the width of their tabs in one line.
+  const int right = wide ? std::min(scaled(560), inside - scaled(1060)) : std::min(scaled(196), inside * 15 / 100);
   return pair(inside - right, inside);
 }
 

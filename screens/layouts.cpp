@@ -69,22 +69,40 @@ QSize FlowLayout::minimumSize() const {
   return size;
 }
 
+// Item by item into lines; the items of a line stand on one middle.
 int FlowLayout::place(const QRect& rect, bool apply) const {
   const int gap = Theme::current().unit();
-  int x = rect.x(), y = rect.y(), line = 0;
-  for (QLayoutItem* const item : m_items) {
-    if (item->isEmpty()) continue;
-    const QSize size = item->sizeHint();
-    if (x > rect.x() && x + size.width() > rect.x() + rect.width()) {
-      x = rect.x();
-      y += line + gap;
-      line = 0;
+  int y = rect.y();
+  std::size_t next = 0;
+  while (next < m_items.size()) {
+    std::vector<std::size_t> line;
+    int width = 0, height = 0;
+    for (; next < m_items.size(); ++next) {
+      if (m_items[next]->isEmpty()) continue;
+      const QSize size = m_items[next]->sizeHint();
+      const int with = width + (line.empty() ? 0 : gap) + size.width();
+      if (!line.empty() && with > rect.width()) break;
+      line.push_back(next);
+      width = with;
+      height = std::max(height, size.height());
     }
-    if (apply) item->setGeometry(QRect(QPoint(x, y), size));
-    x += size.width() + gap;
-    line = std::max(line, size.height());
+    if (line.empty()) break;
+    if (y > rect.y()) y += gap;
+    int x = rect.x();
+    bool pushed = m_rightFrom < 0;
+    for (const std::size_t i : line) {
+      if (!pushed && static_cast<int>(i) >= m_rightFrom) {
+        x += std::max(0, rect.width() - width);
+        pushed = true;
+      }
+      const QSize size = m_items[i]->sizeHint();
+      const QPoint corner(x, y + (height - size.height()) / 2);
+      if (apply) m_items[i]->setGeometry(QRect(corner, size.boundedTo({rect.width(), size.height()})));
+      x += size.width() + gap;
+    }
+    y += height;
   }
-  return y + line - rect.y();
+  return y - rect.y();
 }
 
 Panel::Panel(const QString& title, QWidget* parent) : QFrame(parent), m_body(new QVBoxLayout(this)) {
@@ -112,9 +130,11 @@ QBoxLayout* column(const std::vector<Piece>& pieces) {
   return box(QBoxLayout::TopToBottom, pieces);
 }
 
-FlowLayout* flow(const std::vector<QWidget*>& widgets) {
+FlowLayout* flow(const std::vector<QWidget*>& widgets, const std::vector<QWidget*>& right) {
   auto* const layout = new FlowLayout;
   for (QWidget* const widget : widgets) layout->addWidget(widget);
+  if (!right.empty()) layout->setRightFrom(layout->count());
+  for (QWidget* const widget : right) layout->addWidget(widget);
   return layout;
 }
 

@@ -18,6 +18,9 @@ class FlowLayout : public QLayout {
   explicit FlowLayout(QWidget* parent = nullptr);
   ~FlowLayout() override;
 
+  /// The items from `index` on stand at the right edge of their line.
+  void setRightFrom(int index) { m_rightFrom = index; }
+
   void addItem(QLayoutItem* item) override;
   int count() const override { return static_cast<int>(m_items.size()); }
   QLayoutItem* itemAt(int index) const override;
@@ -33,6 +36,7 @@ class FlowLayout : public QLayout {
   int place(const QRect& rect, bool apply) const;
 
   std::vector<QLayoutItem*> m_items;
+  int m_rightFrom = -1;
 };
 
 /// A panel: a frame of its own ground, with padding inside, and at will a title at its head.
@@ -73,8 +77,8 @@ struct Piece {
 /// A row and a column without margins; the gaps are the theme's unit.
 QBoxLayout* row(const std::vector<Piece>& pieces);
 QBoxLayout* column(const std::vector<Piece>& pieces);
-/// A row that wraps.
-FlowLayout* flow(const std::vector<QWidget*>& widgets);
+/// A row that wraps; those of `right` stand at the right edge.
+FlowLayout* flow(const std::vector<QWidget*>& widgets, const std::vector<QWidget*>& right = {});
 /// Puts a layout into a widget of its own, without margins.
 QWidget* holding(QLayout* layout);
 /// Gives the page of a tab, which has a layout, the padding of a panel.

@@ -76,7 +76,6 @@ void PagePair::setSideBySide(bool sideBySide) {
 void PagePair::movePages() {
   QWidget* const focused = focusWidget();
   const QSignalBlocker quiet(m_tabs);
-  const QSignalBlocker quietBar(m_tabs->tabBar());
   while (m_tabs->count() > 0) m_tabs->removeTab(0);
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     const auto& [given, caption] = m_control.captions()[i];

@@ -26,7 +26,12 @@ class CaseTotals : public QWidget {
     for (QLabel* const caption : {m_hits, m_covered}) caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_totals.setToolTip(QStringLiteral("Totali di S1, S2, S3 e LU"));
     connect(&cases, &GridView::columnsLaidOut, this, [this] { place(); });
-    withTheme(*this, [this] { setFixedHeight(m_totals.sizeHint().height()); });
+    withTheme(*this, [this] {
+      setFixedHeight(m_totals.sizeHint().height());
+      const int span = QFontMetrics(Theme::current().title()).horizontalAdvance(QStringLiteral("88888"));
+      setMinimumWidth(m_span->sizeHint().width() + span + m_covered->sizeHint().width() + m_totals.sizeHint().width() +
+                      4 * Theme::current().unit());
+    });
   }
 
  protected:
@@ -87,8 +92,8 @@ WorkbenchCases::WorkbenchCases(Workbench& w, QWidget* parent) : QWidget(parent) 
   for (int column = kDraw2; column < kHits; ++column) secondElement.push_back(column);
   GridView* const cases = kit.grid("FgEv", {.samples = caseSamples(), .folded = secondElement});
   setLayout(column(
-      {row({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true}),
-            Piece::gap(), kit.button("Command27", {.kind = Kind::Quiet, .icon = "broom"})}),
+      {flow({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true})},
+            {kit.button("Command27", {.kind = Kind::Quiet, .icon = "broom"})}),
        {cases, 1},
        new CaseTotals(kit, *cases)}));
   setFocusProxy(cases);

@@ -1,5 +1,7 @@
 // The keys of the workbench, and the way of the Tab key through it.
 #include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
 
 #include "screens/Sommativi1.h"
 #include "screens/workbench_search.h"
@@ -90,8 +92,10 @@ void Sommativi1::buildKeys() {
 void Sommativi1::orderTabs() {
   QWidget* before = nullptr;
   for (const char* const name : kRoad) {
-    auto* const widget = findChild<QWidget*>(QLatin1String(name));
+    auto* widget = findChild<QWidget*>(QLatin1String(name));
     if (widget == nullptr) continue;
+    // The pages of a tab widget are inside it: it is the bar that comes before them.
+    if (auto* const tabs = qobject_cast<QTabWidget*>(widget)) widget = tabs->tabBar();
     if (before != nullptr) setTabOrder(before, widget);
     before = widget;
   }

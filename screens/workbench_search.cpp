@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QStackedWidget>
 
 #include "screens/icons.h"
@@ -40,20 +41,23 @@ std::vector<QString> candidateSamples() {
 }  // namespace
 
 WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
-    : Panel(QString::fromUtf8("Ricerca: Ambate"), parent), m_w(w), m_pages(new QStackedWidget), m_candidates(nullptr) {
+    : Panel({}, parent),
+      m_w(w),
+      m_title(Kit::text(QStringLiteral("Ricerca: Ambate"), Type::Title)),
+      m_pages(new QStackedWidget),
+      m_candidates(nullptr) {
   Kit kit(w);
   const auto captioned = [](const char* caption, QWidget* widget) {
     return Kit::captioned(QString::fromUtf8(caption), widget);
   };
-  head()->addWidget(kit.lines("List1", 2, QStringLiteral("88:88:88")));
-  head()->addWidget(kit.button("Command3", {.kind = Kind::Quiet}));
-  head()->addWidget(kit.button("Cmd_Colora_fgf", {.kind = Kind::Quiet}));
-  head()->addWidget(captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888"))));
-
-  body()->addLayout(row({captioned("&Alteraz", kit.combo("Combo1R_1N", QStringLiteral("D x U"))),
-                         captioned("Opera&zione", kit.combo("Combo1R_2N", QStringLiteral("N1 X N2"))),
-                         captioned("Fi&x", kit.combo("ComboFix", QStringLiteral("88"))), kit.check("ChFix1R"),
-                         Piece::gap(), kit.check("Ch_Scoperti", 'C')}));
+  body()->addLayout(
+      flow({m_title}, {kit.lines("List1", 2, QStringLiteral("88:88:88")), kit.button("Command3", {.kind = Kind::Quiet}),
+                       kit.button("Cmd_Colora_fgf", {.kind = Kind::Quiet}),
+                       captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888")))}));
+  body()->addLayout(flow({captioned("&Alteraz", kit.combo("Combo1R_1N", QStringLiteral("D x U"))),
+                          captioned("Opera&zione", kit.combo("Combo1R_2N", QStringLiteral("N1 X N2"))),
+                          captioned("Fi&x", kit.combo("ComboFix", QStringLiteral("88"))), kit.check("ChFix1R")},
+                         {kit.check("Ch_Scoperti", 'C')}));
 
   page({kit.joined({"Command20", "Command11", "Command13", "Command15"}),
         kit.joined({"Command23", "Command17", "Command16", "Command7"}), kit.joined({"Command18"}),
@@ -66,25 +70,21 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
     page({kit.joined({names[0]}), kit.joined({names[1]}), kit.joined({names[2]}), kit.joined({names[3]}),
           kit.joined({names[4]})},
          kit.joined({names[5]}));
-  m_pages->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   body()->addWidget(m_pages);
 
   m_candidates = kit.grid("FgF", {.samples = candidateSamples()});
   body()->addWidget(m_candidates, 1);
 
-  std::vector<Piece> foot = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),
-                             Kit::text(QStringLiteral("Aggiunge previsione"), Type::Hint)};
+  std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),
+                               Kit::text(QStringLiteral("Aggiunge previsione"), Type::Hint)};
   for (const char* const name : {"Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6"})
-    foot.emplace_back(kit.button(name, {.strong = true}));
-  foot.insert(foot.end(), {kit.check("ChVerifica", 'V'), Piece::gap(), kit.button("Command22")});
-  body()->addLayout(row(foot));
+    adding.emplace_back(kit.button(name, {.strong = true}));
+  body()->addLayout(flow({holding(row(adding)), kit.check("ChVerifica", 'V')}, {kit.button("Command22")}));
 }
 
 QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
-  std::vector<Piece> pieces(groups.begin(), groups.end());
-  pieces.push_back(Piece::gap());
-  if (counts != nullptr) pieces.emplace_back(counts);
-  QWidget* const made = holding(row(pieces));
+  QWidget* const made =
+      holding(flow(groups, counts == nullptr ? std::vector<QWidget*>() : std::vector<QWidget*>{counts}));
   for (auto* const button : made->findChildren<QAbstractButton*>()) button->installEventFilter(this);
   m_pages->addWidget(made);
   return made;
@@ -95,7 +95,7 @@ void WorkbenchSearch::followTab(int tab) {
   for (const auto& [given, caption] : kSections) {
     if (given == tab) {
       m_pages->setCurrentIndex(page);
-      setTitle(QStringLiteral("Ricerca: ") + QString::fromUtf8(caption));
+      m_title->setText(QStringLiteral("Ricerca: ") + QString::fromUtf8(caption));
     }
     ++page;
   }

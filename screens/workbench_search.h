@@ -6,6 +6,7 @@
 #include "screens/layouts.h"
 
 class QAbstractButton;
+class QLabel;
 class QStackedWidget;
 
 namespace trv5 {
@@ -33,6 +34,7 @@ class WorkbenchSearch : public Panel {
   void chooseFirst();
 
   Workbench& m_w;
+  QLabel* m_title;
   QStackedWidget* m_pages;
   GridView* m_candidates;
 };

@@ -83,6 +83,7 @@ void WorkbenchStatistics::arrange() {
   setProperty("panel", m_wide);
   style()->unpolish(this);
   style()->polish(this);
+  if (!m_wide) setFrameShape(QFrame::NoFrame);  // which the style sheet gives, but doesn't take back
   m_title->setVisible(m_wide);
   m_legend->setVisible(m_wide);
   const int line = QFontMetrics(Theme::current().base()).height();
