@@ -151,7 +151,7 @@ TEST(HelpPages, EveryPictureIsShownSomewhereAndSmall) {
   }
   for (const auto& picture : fs::directory_iterator(folder)) {
     EXPECT_TRUE(shown.contains("img/" + picture.path().filename().string())) << picture.path();
-    EXPECT_LT(fs::file_size(picture.path()), 120'000U) << picture.path();
+    EXPECT_LT(fs::file_size(picture.path()), 140'000U) << picture.path();
   }
 }
 
