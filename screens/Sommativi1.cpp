@@ -18,6 +18,8 @@ namespace {
 
 // From this width on nothing need stand behind a tab: that of a window of 1600 pixels less the shell's folded panel.
 constexpr int kWide = 1600 - 52;
+// From here on the bars of the statistics have their told width beside all tabs of the forecasts.
+constexpr int kRoomy = 1700;
 
 QSplitter* splitterOf(Qt::Orientation orientation, std::initializer_list<QWidget*> parts, int growing) {
   auto* const splitter = new QSplitter(orientation);
@@ -106,6 +108,8 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
   const int inside = width() - 3 * Theme::current().unit();
   if (name == QLatin1String("righe")) {
     const int high = height() - m_bar->height() - 2 * Theme::current().unit();
+    // A low window of many columns has its search in more lines.
+    if (wide && high < scaled(900)) return pair(high * 60 / 100, high);
     return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);
   }
   if (name == QLatin1String("sopra")) {
@@ -125,7 +129,7 @@ void Sommativi1::layOut() {
   m_bar->setWide(wide);
   m_pages->setSideBySide(wide);
   m_forecasts->setWide(wide);
-  m_statistics->setWide(wide);
+  m_statistics->setWide(wide, wide && width() >= scaled(kRoomy));
   const QString now = memoryKey("");
   const bool other = now != m_laidOut;
   m_laidOut = now;

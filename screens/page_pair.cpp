@@ -69,12 +69,14 @@ void PagePair::build(bool framed) {
 void PagePair::setSideBySide(bool sideBySide) {
   if (m_sideBySide == sideBySide) return;
   m_sideBySide = sideBySide;
+  QWidget* const focused = focusWidget();
+  const bool had = focused != nullptr && focused->hasFocus();
   movePages();
   showFront();
+  if (had && focused->isVisibleTo(this)) focused->setFocus();
 }
 
 void PagePair::movePages() {
-  QWidget* const focused = focusWidget();
   const QSignalBlocker quiet(m_tabs);
   while (m_tabs->count() > 0) m_tabs->removeTab(0);
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
@@ -89,7 +91,6 @@ void PagePair::movePages() {
   }
   m_narrow->setVisible(!m_sideBySide);
   m_splitter->setVisible(m_sideBySide);
-  if (focused != nullptr && focused->isVisibleTo(this)) focused->setFocus();
 }
 
 void PagePair::showFront() {

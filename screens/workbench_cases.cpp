@@ -90,7 +90,7 @@ WorkbenchCases::WorkbenchCases(Workbench& w, QWidget* parent) : QWidget(parent) 
   Kit kit(w);
   std::vector<int> secondElement;
   for (int column = kDraw2; column < kHits; ++column) secondElement.push_back(column);
-  GridView* const cases = kit.grid("FgEv", {.samples = caseSamples(), .folded = secondElement});
+  GridView* const cases = kit.grid("FgEv", {.samples = caseSamples(), .folded = secondElement, .tight = true});
   setLayout(column(
       {flow({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true})},
             {kit.button("Command27", {.kind = Kind::Quiet, .icon = "broom"})}),

@@ -72,7 +72,7 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
          kit.joined({names[5]}));
   body()->addWidget(m_pages);
 
-  m_candidates = kit.grid("FgF", {.samples = candidateSamples()});
+  m_candidates = kit.grid("FgF", {.samples = candidateSamples(), .tight = true});
   body()->addWidget(m_candidates, 1);
 
   std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),

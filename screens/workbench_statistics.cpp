@@ -70,9 +70,10 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
   connect(&Theme::current(), &Theme::changed, this, &WorkbenchStatistics::arrange);
 }
 
-void WorkbenchStatistics::setWide(bool wide) {
-  if (m_wide == wide) return;
+void WorkbenchStatistics::setWide(bool wide, bool longBars) {
+  if (m_wide == wide && m_longBars == longBars) return;
   m_wide = wide;
+  m_longBars = longBars;
   arrange();
 }
 
@@ -91,6 +92,7 @@ void WorkbenchStatistics::arrange() {
 
   GridLook counts = {.samples = {QStringLiteral("InG"), QStringLiteral("8888")}, .toolTip = meaning};
   GridLook bars = {.fixedHeight = true};
+  if (!m_longBars) bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("8888.88")};
   if (m_wide) {
     counts.minRow = line + 2;
     counts.maxRow = line * 7 / 4;
@@ -101,7 +103,6 @@ void WorkbenchStatistics::arrange() {
     m_grid->addWidget(m_legend, 2, 1);
   } else {
     counts.fixedHeight = true;
-    bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("8888.88")};
     bars.tight = true;
     m_grid->addWidget(m_countsHolder, 0, 0);
     m_grid->addWidget(m_bars, 1, 0, Qt::AlignBottom);

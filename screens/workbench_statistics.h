@@ -15,8 +15,8 @@ class WorkbenchStatistics : public Panel {
   Q_OBJECT
  public:
   explicit WorkbenchStatistics(Workbench& w, QWidget* parent = nullptr);
-  /// With room a title, higher rows, long bars and the legend of the colours.
-  void setWide(bool wide);
+  /// With room a title, higher rows and the legend of the colours; with more room long bars.
+  void setWide(bool wide, bool longBars);
 
  private:
   void arrange();
@@ -25,7 +25,7 @@ class WorkbenchStatistics : public Panel {
   QWidget *m_countsHolder, *m_legend;
   QLabel* m_title;
   QGridLayout* m_grid;
-  bool m_wide = false;
+  bool m_wide = false, m_longBars = false;
 };
 
 }  // namespace trv5
