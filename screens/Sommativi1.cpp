@@ -1,5 +1,6 @@
 #include "screens/Sommativi1.h"
 
+#include <QMdiSubWindow>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -109,7 +110,7 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
   if (name == QLatin1String("righe")) {
     const int high = height() - m_bar->height() - 2 * Theme::current().unit();
     // A low window of many columns has its search in more lines.
-    if (wide && high < scaled(900)) return pair(high * 60 / 100, high);
+    if (wide && high < scaled(900)) return pair(high * 63 / 100, high);
     return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);
   }
   if (name == QLatin1String("sopra")) {
@@ -120,7 +121,7 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
   }
   if (name == QLatin1String("pagine")) return pair(scaled(560), m_pages->width());
   // The forecasts want the width of their tabs in one line.
-  const int right = wide ? std::min(scaled(560), inside - scaled(1060)) : std::min(scaled(196), inside * 15 / 100);
+  const int right = wide ? std::min(scaled(560), inside - scaled(1085)) : std::min(scaled(196), inside * 15 / 100);
   return pair(inside - right, inside);
 }
 
@@ -149,7 +150,9 @@ QSize Sommativi1::minimumSizeHint() const {
 
 void Sommativi1::resizeEvent(QResizeEvent* event) {
   Screen::resizeEvent(event);
-  layOut();
+  // On its way to the full size of the shell's area a window has others.
+  const auto* const frame = qobject_cast<const QMdiSubWindow*>(parentWidget());
+  if (frame == nullptr || frame->isMaximized()) layOut();
 }
 
 }  // namespace trv5

@@ -389,6 +389,12 @@ void ContainerWindow::closeEvent(QCloseEvent* event) {
 
 bool ContainerWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_centre && event->type() == QEvent::Resize) layoutParts();
+  // A window without a frame has nothing to draw in another style; Qt would take it out of its full size and back, and
+  // move the focus on.
+  if (event->type() == QEvent::StyleChange)
+    if (const auto* const window = qobject_cast<const QMdiSubWindow*>(watched);
+        window != nullptr && (window->windowFlags() & Qt::FramelessWindowHint) != 0)
+      return true;
   if (event->type() == QEvent::Close) {
     if (auto* const window = qobject_cast<QMdiSubWindow*>(watched); window != nullptr && window->widget() != nullptr) {
       event->ignore();

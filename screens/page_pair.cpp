@@ -70,7 +70,7 @@ void PagePair::setSideBySide(bool sideBySide) {
   if (m_sideBySide == sideBySide) return;
   m_sideBySide = sideBySide;
   QWidget* const focused = focusWidget();
-  const bool had = focused != nullptr && focused->hasFocus();
+  const bool had = focused != nullptr && window()->focusWidget() == focused;
   movePages();
   showFront();
   if (had && focused->isVisibleTo(this)) focused->setFocus();

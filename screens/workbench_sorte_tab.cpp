@@ -1,5 +1,8 @@
 #include "screens/workbench_sorte_tab.h"
 
+#include <QEvent>
+#include <algorithm>
+
 #include "screens/theme.h"
 
 namespace trv5 {
@@ -30,6 +33,43 @@ std::vector<QString> formulaSamples() {
           QStringLiteral("DIAM")};
 }
 
+class TwoColumns : public QWidget {
+ public:
+  TwoColumns(QWidget* left, QWidget* right, GridView* grid) : m_left(left), m_right(right), m_grid(grid) {
+    left->setParent(this);
+    right->setParent(this);
+  }
+
+  QSize sizeHint() const override { return minimumSizeHint(); }
+  QSize minimumSizeHint() const override {
+    const QSize left = m_left->minimumSizeHint(), right = m_right->minimumSizeHint();
+    return {left.width() + gap() + right.width(), std::max(left.height(), right.height())};
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+      if (event->type() == QEvent::LayoutRequest) updateGeometry();
+      place();
+    }
+    return QWidget::event(event);
+  }
+
+ private:
+  static int gap() { return 2 * Theme::current().unit(); }
+
+  void place() {
+    const int most = kFormulaFigures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8');
+    const int least = m_left->minimumSizeHint().width();
+    const int left = std::clamp(width() - gap() - m_grid->sizeHint().width(), least, std::max(least, most));
+    m_left->setGeometry(0, 0, left, height());
+    m_right->setGeometry(left + gap(), 0, width() - gap() - left, height());
+  }
+
+  QWidget *m_left, *m_right;
+  GridView* m_grid;
+};
+
 }  // namespace
 
 std::vector<QString> hitSamples() {
@@ -41,13 +81,8 @@ std::vector<QString> hitSamples() {
   return samples;
 }
 
-QWidget* leftAndRight(QLayout* left, QLayout* right) {
-  QWidget* const first = holding(left);
-  QWidget* const both = holding(row({{first, 1}, Piece::space(), {holding(right), 0}}));
-  withTheme(*both, [first] {
-    first->setMaximumWidth(kFormulaFigures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8'));
-  });
-  return both;
+QWidget* leftAndRight(QLayout* left, QLayout* right, GridView* grid) {
+  return holding(column({{new TwoColumns(holding(left), holding(right), grid), 1}}));
 }
 
 QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
@@ -59,19 +94,21 @@ QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
   if (names.verifyRow != nullptr) verify.push_back(kit.button(names.verifyRow));
   verify.push_back(kit.button(names.beyondLimit));
 
-  std::vector<Piece> edit = {quiet(names.remove, "trash"), quiet(names.clear, "broom"), Piece::gap()};
-  if (names.rowWheels != nullptr) edit.emplace_back(kit.check(names.rowWheels));
+  std::vector<QWidget*> wheels;
+  if (names.rowWheels != nullptr) wheels.push_back(kit.check(names.rowWheels));
+  QLayout* const edit = flow({quiet(names.remove, "trash"), quiet(names.clear, "broom")}, wheels);
 
   std::vector<Piece> left;
   if (above != nullptr) left.emplace_back(above);
-  GridView* const formulas = kit.grid(names.formulas, {.samples = formulaSamples(), .freePlaces = names.places});
-  left.insert(left.end(), {{formulas, 1}, flow(verify), row(edit)});
+  GridView* const formulas =
+      kit.grid(names.formulas, {.samples = formulaSamples(), .freePlaces = names.places, .tight = true});
+  left.insert(left.end(), {{formulas, 1}, flow(verify), edit});
 
   std::vector<QWidget*> utilities = {quiet(names.print, "print"), quiet(names.copy, "copy"),
                                      quiet(names.clean, "broom")};
   if (names.extended != nullptr) utilities.push_back(kit.button(names.extended, {.icon = "columns"}));
   GridView* const hits = kit.grid(names.hits, {.samples = hitSamples()});
-  return leftAndRight(column(left), column({{hits, 1}, flow(utilities)}));
+  return leftAndRight(column(left), column({{hits, 1}, flow(utilities)}), hits);
 }
 
 }  // namespace trv5

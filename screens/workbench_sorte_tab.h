@@ -29,8 +29,10 @@ struct SorteTab {
 /// `above`: what stands over the table; null for nothing.
 QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above = nullptr);
 
-/// Two columns of a tab: the left one no wider than it needs to be read, the rest for the right one.
-QWidget* leftAndRight(QLayout* left, QLayout* right);
+/// Two columns of a tab. The right one has the width that `grid`, which it holds, wants for its columns; the left one
+/// the rest, up to what is easily read; what is still left goes to the right one. So the columns of all tabs with such
+/// a grid are equal, whatever their buttons.
+QWidget* leftAndRight(QLayout* left, QLayout* right, GridView* grid);
 
 /// The widest texts of the columns of a grid of hits.
 std::vector<QString> hitSamples();

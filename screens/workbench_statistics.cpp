@@ -46,7 +46,9 @@ QWidget* legend() {
     lines.emplace_back(line);
   }
   lines.push_back(Piece::gap());
-  return holding(column(lines));
+  QBoxLayout* const all = column(lines);
+  all->setSpacing(0);
+  return holding(all);
 }
 
 }  // namespace
@@ -65,6 +67,7 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
   m_counts->setAccessibleName(m_title->text());
   m_bars->setAccessibleName(m_title->text());
   m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
+  for (QWidget* const part : {static_cast<QWidget*>(m_title), m_legend}) part->setParent(this);
   body()->addLayout(m_grid, 1);
   arrange();
   connect(&Theme::current(), &Theme::changed, this, &WorkbenchStatistics::arrange);

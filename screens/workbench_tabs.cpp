@@ -75,7 +75,8 @@ QWidget* numbersInPlayTab(Workbench& w) {
   GridView* const cases = kit.grid(
       "Fg15", {.samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
   GridView* const forecasts = kit.grid("FgGioco", {.samples = repeated({QStringLiteral("LU")}, 10, kNumber)});
-  return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}));
+  return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}),
+                      forecasts);
 }
 
 QWidget* groupingTab(Workbench& w, PagePair*& sheets) {

@@ -217,6 +217,13 @@ TEST(WorkbenchKeys, ControlZeroIsTheTenthTabWhileTheWorkbenchIsInFront) {
   shell.show("Sommativi1");
   settle();
   EXPECT_FALSE(reset->isEnabled());
+  // The focus stays where it is when the density changes and the pages move.
+  shell.widget("Sommativi1", "FgF")->setFocus();
+  shell.widget("Container")->resize(1366, 768);
+  settle();
+  shell.widget("Container")->resize(1920, 1080);
+  settle();
+  EXPECT_TRUE(shell.widget("Sommativi1", "FgF")->hasFocus());
   shell.close("Sommativi1");
   settle();
   EXPECT_TRUE(reset->isEnabled());
