@@ -1,0 +1,155 @@
+// From the click on a search to its painted candidates, and the scrolling of a long table of hits: what the user waits
+// for, without a display. Processor times, so that other programs of the machine don't count.
+//
+//   screen_bench [HISTORY]    HISTORY: as for the other benches
+#include <fmt/format.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QScrollBar>
+
+#include "bench_tools.h"
+#include "screens/Sommativi1.h"
+#include "screens/grid_view.h"
+#include "screens/theme.h"
+#include "support/workbench_world.h"
+
+namespace trv5 {
+namespace {
+
+constexpr double kSeconds = 1.0;      // spent on each measurement
+constexpr double kMostOfSearch = 30;  // ms from the click to the picture
+constexpr double kMostOfStep = 16;    // ms of a step of scrolling: sixty pictures a second
+
+// Counts the pictures of a view.
+class Paintings : public QObject {
+ public:
+  explicit Paintings(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+  int count = 0;
+};
+
+void showAll() {
+  for (int i = 0; i < 2; ++i) {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+  }
+}
+
+bool g_good = true;
+
+void tell(const std::string& name, double milliseconds, double most) {
+  const bool good = milliseconds <= most;
+  g_good = g_good && good;
+  fmt::print("{:<56} {:>8.2f} ms{}\n", name, milliseconds, good ? "" : fmt::format("   MORE THAN {} ms", most));
+}
+
+void requirePicture(const Paintings& paintings, int before, const char* name) {
+  if (paintings.count > before) return;
+  fmt::print("{}: NOTHING WAS PAINTED\n", name);
+  g_good = false;
+}
+
+// Fifty cases, twenty colpi, all wheels, a hundred candidates, every fix: what a search can be asked for at most.
+void prepare(WorkbenchWorld& world) {
+  Workbench& w = world.w;
+  for (const int n : {1, 30, 60, 90}) w.FgNu.clickCell((n - 1) / 10, (n - 1) % 10);
+  world.press("Command6");
+  world.positions({1, 2, 3, 4, 5});
+  w.Label17.click();
+  WorkbenchWorld::choose(w.ComboNC, "50");
+  WorkbenchWorld::choose(w.ComboColpi, "20");
+  WorkbenchWorld::choose(w.ComboEle, "100");
+  WorkbenchWorld::choose(w.Combo1R_2N, "N1 + N2");
+  w.ChFix1R.set(true);
+  world.press("Command44");
+}
+
+void benchSearches(WorkbenchWorld& world, Sommativi1& screen) {
+  auto& view = *screen.findChild<GridView*>(QStringLiteral("FgF"));
+  Paintings paintings(*view.viewport());
+  for (const auto& [button, name] : {std::pair("Command20", "1N 1R"), std::pair("Command23", "2N 1R"),
+                                     std::pair("Command18", "3N 1R"), std::pair("Command10", "2N 2R")}) {
+    auto& widget = *screen.findChild<QAbstractButton*>(QLatin1String(button));
+    const int before = paintings.count;
+    const double seconds = secondsOf(
+        [&] {
+          widget.click();
+          showAll();
+        },
+        kSeconds);
+    requirePicture(paintings, before, name);
+    tell(fmt::format("click on {} to {} painted candidates", name, world.w.FgF.dataRows()), seconds * 1e3,
+         kMostOfSearch);
+  }
+}
+
+void benchHits(WorkbenchWorld& world, Sommativi1& screen) {
+  constexpr int kRows = 5000;
+  Grid& hits = world.w.FgZ1.grid();
+  {
+    const Grid::Batch batch(hits);
+    hits.cutToHeading();
+    hits.setRows(kRows + 1);
+    for (int row = 1; row <= kRows; ++row)
+      for (int column = 0; column < hits.columns(); ++column) {
+        hits.setNumber(row, column, (row * 7 + column) % 90 + 1);
+        hits.setBack(row, column, column % 3 == 0 ? VerdeMedio : kWhite);
+      }
+  }
+  auto& view = *screen.findChild<GridView*>(QStringLiteral("FgZ1"));
+  Paintings paintings(*view.viewport());
+  tell(fmt::format("{} hits shown after a verification", kRows),
+       1e3 * secondsOf(
+                 [&] {
+                   hits.setNumber(1, 0, hits.number(1, 0) % 90 + 1);
+                   showAll();
+                 },
+                 kSeconds),
+       kMostOfSearch);
+  QScrollBar& bar = *view.verticalScrollBar();
+  for (const auto& [step, name] : {std::pair(1, "a row"), std::pair(bar.pageStep(), "a page"), std::pair(997, "far")}) {
+    const int before = paintings.count;
+    const double seconds = secondsOf(
+        [&, step = step] {
+          bar.setValue((bar.value() + step) % (bar.maximum() + 1));
+          showAll();
+        },
+        kSeconds);
+    requirePicture(paintings, before, name);
+    tell(fmt::format("{} hits scrolled by {}", kRows, name), seconds * 1e3, kMostOfStep);
+  }
+}
+
+void benchScreen(WorkbenchWorld& world) {
+  const double seconds = secondsOf([&] { Sommativi1(world.w).resize(1314, 740); }, kSeconds);
+  fmt::print("{:<56} {:>8.2f} ms\n", "the workbench's widgets made", seconds * 1e3);
+}
+
+int run(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  Theme theme(app);
+  theme.setWindowHeight(1080);
+  WorkbenchWorld world(archiveToMeasure(argc, argv));
+  benchScreen(world);
+  Sommativi1 screen(world.w);
+  screen.resize(1868, 1052);
+  screen.show();
+  prepare(world);
+  showAll();
+  fmt::print("{} cases\n", world.w.FgEv.dataRows());
+  benchSearches(world, screen);
+  benchHits(world, screen);
+  return g_good ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace trv5
+
+int main(int argc, char** argv) {
+  return trv5::run(argc, argv);
+}
