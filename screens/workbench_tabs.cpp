@@ -74,7 +74,8 @@ QWidget* numbersInPlayTab(Workbench& w) {
   const QString numbers = QStringLiteral("88-88-88");
   GridView* const cases = kit.grid(
       "Fg15", {.samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
-  GridView* const forecasts = kit.grid("FgGioco", {.samples = repeated({QStringLiteral("LU")}, 10, kNumber)});
+  GridView* const forecasts =
+      kit.grid("FgGioco", {.samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("888"))});
   return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}),
                       forecasts);
 }
@@ -118,7 +119,7 @@ QWidget* informationTab(Workbench& w) {
                     kit.button("Command111"), kit.button("Command112"), kit.button("Command113")}),
               flow({kit.button("Command104", {.icon = "filter"}), quiet(kit, "Command89", "copy")}), Piece::gap()});
   GridView* const values =
-      kit.grid("FgRit", {.samples = repeated({kNumber}, kWheels, QStringLiteral("888"), {QStringLiteral("888")})});
+      kit.grid("FgRit", {.samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")})});
   return holding(row({narrow(new ScrollColumn(commands), 42), Piece::space(), {values, 1}}));
 }
 
