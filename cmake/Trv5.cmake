@@ -45,8 +45,9 @@ function(trv5_layer name)
 endfunction()
 
 # trv5_tests(engine USES engine): the test program of one folder of tests/, each test of it known to CTest by its name.
+# With LABEL its tests can be chosen by that.
 function(trv5_tests name)
-  cmake_parse_arguments(T "" "" "USES;LINKS" ${ARGN})
+  cmake_parse_arguments(T "" "LABEL" "USES;LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
   if(NOT sources)
     return()
@@ -58,5 +59,6 @@ function(trv5_tests name)
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   # What is tested is optimised; optimising the tests themselves only costs time, under sanitizers three times as much.
   target_compile_options(test_${name} PRIVATE $<IF:$<BOOL:${TRV5_SANITIZE}>,-O0,-O1>)
-  gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" DISCOVERY_MODE PRE_TEST)
+  gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" LABELS "${T_LABEL}"
+                       DISCOVERY_MODE PRE_TEST)
 endfunction()
