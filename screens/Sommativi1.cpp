@@ -1,6 +1,7 @@
 #include "screens/Sommativi1.h"
 
 #include <QMdiSubWindow>
+#include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -55,9 +56,19 @@ Sommativi1::Sommativi1(Workbench& form)
     connect(handle.splitter, &QSplitter::splitterMoved, this,
             [this, handle] { m_moved[memoryKey(handle.name)] = handle.splitter->sizes(); });
 
-  auto* const parts = new QVBoxLayout(this);
+  // With the usual fonts all of it fits; with a large one in a small window it scrolls rather than being cut.
+  m_scroll = new QScrollArea;
+  m_scroll->setFrameShape(QFrame::NoFrame);
+  m_scroll->setFocusPolicy(Qt::NoFocus);
+  m_scroll->setWidgetResizable(true);
+  m_scroll->setWidget(new QWidget);
+  m_scroll->viewport()->setAutoFillBackground(false);
+  m_scroll->widget()->setAutoFillBackground(false);
+  auto* const whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(m_scroll);
+  auto* const parts = new QVBoxLayout(m_scroll->widget());
   parts->setSpacing(0);
-  parts->setSizeConstraint(QLayout::SetNoConstraint);  // what it needs depends on the layout that the size asks for
   parts->addWidget(m_bar);
   parts->addWidget(m_rows, 1);
   connect(m_forecasts, &WorkbenchForecasts::tabInFront, m_search, &WorkbenchSearch::followTab);
@@ -106,9 +117,10 @@ QList<int> Sommativi1::defaultSizes(const char* splitter) const {
   const auto pair = [](int first, int total) { return QList<int>{first, std::max(1, total - first)}; };
   const bool wide = m_pages->sideBySide();
   const QLatin1String name(splitter);
-  const int inside = width() - 3 * Theme::current().unit();
+  const QSize whole = size().expandedTo(m_scroll->widget()->minimumSizeHint());
+  const int inside = whole.width() - 3 * Theme::current().unit();
   if (name == QLatin1String("righe")) {
-    const int high = height() - m_bar->height() - 2 * Theme::current().unit();
+    const int high = whole.height() - m_bar->height() - 2 * Theme::current().unit();
     // A low window of many columns has its search in more lines.
     if (wide && high < scaled(900)) return pair(high * 63 / 100, high);
     return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);

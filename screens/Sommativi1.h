@@ -7,6 +7,7 @@
 #include "cases/workbench.h"
 #include "screens/screen.h"
 
+class QScrollArea;
 class QSplitter;
 
 namespace trv5 {
@@ -53,6 +54,7 @@ class Sommativi1 : public Screen {
   WorkbenchSearch* m_search;
   WorkbenchForecasts* m_forecasts;
   WorkbenchStatistics* m_statistics;
+  QScrollArea* m_scroll = nullptr;
   QSplitter *m_rows, *m_top, *m_bottom;
   QList<Handle> m_handles;
   QHash<QString, QList<int>> m_moved;  // sizes that the user gave, by memoryKey

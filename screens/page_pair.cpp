@@ -1,8 +1,8 @@
 #include "screens/page_pair.h"
 
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -13,6 +13,29 @@
 #include "screens/theme.h"
 
 namespace trv5 {
+
+// Looks like the tab of its page: underlined while the page is in front.
+class PageHeading : public ClickLabel {
+ public:
+  explicit PageHeading(const std::string& caption) {
+    setText(qs(caption));
+    setProperty("heading", true);
+    setFocusPolicy(Qt::NoFocus);
+  }
+  void setCurrent(bool current) {
+    m_current = current;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    ClickLabel::paintEvent(event);
+    if (m_current) QPainter(this).fillRect(2, height() - 3, width() - 4, 3, palette().color(QPalette::Highlight));
+  }
+
+ private:
+  bool m_current = false;
+};
 
 PagePair::PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed, QWidget* parent)
     : QWidget(parent), m_control(control), m_pages(pages) {
@@ -46,10 +69,7 @@ void PagePair::build(bool framed) {
     side.frame = frame();
     if (side.frame->layout() == nullptr) new QVBoxLayout(side.frame);
     const auto& [given, caption] = m_control.captions()[i];
-    auto* const heading = new ClickLabel;
-    heading->setText(qs(caption));
-    heading->setProperty("heading", true);
-    heading->setFocusPolicy(Qt::NoFocus);
+    auto* const heading = new PageHeading(caption);
     connect(heading, &ClickLabel::clicked, this, [this, given = given] { m_control.set(given); });
     side.heading = heading;
     auto* const head = column({row({heading, Piece::gap()}), separator(Qt::Horizontal)});
@@ -99,12 +119,7 @@ void PagePair::showFront() {
   m_front = front;
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     const bool current = m_control.captions()[i].first == front;
-    QLabel* const heading = m_sides[i].heading;
-    if (heading->property("current").toBool() != current) {
-      heading->setProperty("current", current);
-      heading->style()->unpolish(heading);
-      heading->style()->polish(heading);
-    }
+    m_sides[i].heading->setCurrent(current);
     if (!current) continue;
     // Tabs that the user walks with the arrows keep the focus.
     const bool walking = m_tabs->tabBar()->hasFocus();

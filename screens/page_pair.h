@@ -6,12 +6,13 @@
 #include "core/controls.h"
 
 class QFrame;
-class QLabel;
 class QSplitter;
 class QTabWidget;
 class QVBoxLayout;
 
 namespace trv5 {
+
+class PageHeading;
 
 /// Two pages of a tab control: one behind the other under their tabs where there is little room, else side by side,
 /// each under its heading. Side by side nothing is hidden: the page in front has the underlined heading, and gets the
@@ -31,7 +32,7 @@ class PagePair : public QWidget {
   struct Side {
     QFrame* frame = nullptr;
     QVBoxLayout* layout = nullptr;
-    QLabel* heading = nullptr;
+    PageHeading* heading = nullptr;
   };
 
   void build(bool framed);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QStackedWidget>
 
 #include "screens/icons.h"
@@ -125,6 +126,16 @@ void WorkbenchSearch::chooseFirst() {
   if (!m_w.FgF.hasData()) return;
   m_candidates->clickCell(m_w.FgF.headingRows(), m_w.FgF.currentColumn());
   m_candidates->setFocus(Qt::OtherFocusReason);
+}
+
+QSize WorkbenchSearch::minimumSizeHint() const {
+  const QSize least = Panel::minimumSizeHint();
+  return {least.width(), std::max(least.height(), layout()->minimumHeightForWidth(std::max(width(), least.width())))};
+}
+
+void WorkbenchSearch::resizeEvent(QResizeEvent* event) {
+  Panel::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) updateGeometry();
 }
 
 bool WorkbenchSearch::eventFilter(QObject* watched, QEvent* event) {

@@ -24,7 +24,11 @@ class WorkbenchSearch : public Panel {
   /// Puts the focus on the search buttons: arrows walk them, Enter searches and goes to the candidates.
   void focusSearches();
 
+  /// As high as its rows are where they wrap at the width of the moment.
+  QSize minimumSizeHint() const override;
+
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -43,14 +43,18 @@ class TwoColumns : public QWidget {
   QSize sizeHint() const override { return minimumSizeHint(); }
   QSize minimumSizeHint() const override {
     const QSize left = m_left->minimumSizeHint(), right = m_right->minimumSizeHint();
-    return {left.width() + gap() + right.width(), std::max(left.height(), right.height())};
+    const auto height = [](const QWidget& column, int least) {
+      return std::max(least, column.layout()->minimumHeightForWidth(column.width()));  // with its wrapped rows
+    };
+    return {left.width() + gap() + right.width(),
+            std::max(height(*m_left, left.height()), height(*m_right, right.height()))};
   }
 
  protected:
   bool event(QEvent* event) override {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
-      if (event->type() == QEvent::LayoutRequest) updateGeometry();
       place();
+      updateGeometry();
     }
     return QWidget::event(event);
   }

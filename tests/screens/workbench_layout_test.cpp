@@ -29,7 +29,8 @@ bool isText(const QWidget& widget) {
 // Whether an ancestor below the screen scrolls it up and down.
 bool scrolls(const QWidget& widget) {
   for (const QWidget* w = widget.parentWidget(); w != nullptr; w = w->parentWidget())
-    if (const auto* const area = qobject_cast<const QScrollArea*>(w)) return area->verticalScrollBar()->isVisible();
+    if (const auto* const area = qobject_cast<const QScrollArea*>(w); area != nullptr)
+      if (area->verticalScrollBar()->isVisible()) return true;
   return false;
 }
 
@@ -45,7 +46,8 @@ void expectNothingCut(const Sommativi1& screen) {
     if (!fixed && (label == nullptr || !label->wordWrap())) {
       EXPECT_GE(widget->width(), widget->sizeHint().width()) << name;
     }
-    for (const QWidget* w = widget->parentWidget(); w != nullptr && w != screen.parentWidget(); w = w->parentWidget()) {
+    const QWidget* const whole = screen.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly)->viewport();
+    for (const QWidget* w = widget->parentWidget(); w != whole; w = w->parentWidget()) {
       const QRect inside(widget->mapTo(w, QPoint(0, 0)), widget->size());
       EXPECT_GE(inside.left(), 0) << name << " in " << w->metaObject()->className();
       EXPECT_LE(inside.right(), w->width() - 1) << name << " in " << w->metaObject()->className();
@@ -83,6 +85,27 @@ TEST_P(WorkbenchSizes, CutNothingOnAnyTab) {
       expectNothingCut(*world.screen);
     }
   }
+}
+
+TEST_P(WorkbenchSizes, NeedNoScrollBarOfTheWindow) {
+  const auto [window, points] = GetParam();
+  Theme::edit().setBasePoints(points);
+  WorkbenchScreen world(window);
+  const QScrollArea& whole = *world.screen->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+  for (const auto& [tab, caption] : world.world.w.SSTab3.captions()) {
+    world.world.w.SSTab3.set(tab);
+    settle();
+    EXPECT_FALSE(whole.horizontalScrollBar()->isVisible()) << caption << whole.widget()->minimumSizeHint().width();
+    EXPECT_FALSE(whole.verticalScrollBar()->isVisible()) << caption << whole.widget()->minimumSizeHint().height();
+  }
+}
+
+TEST(WorkbenchLayout, ALargeFontInASmallWindowScrollsRatherThanBeingCut) {
+  Theme::edit().setBasePoints(14);
+  WorkbenchScreen world({1366, 768});
+  const QScrollArea& whole = *world.screen->findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+  EXPECT_TRUE(whole.horizontalScrollBar()->isVisible());
+  expectNothingCut(*world.screen);
 }
 
 TEST_P(WorkbenchSizes, HaveNoControlThatIsTooSmallToHit) {
@@ -162,8 +185,11 @@ TEST(WorkbenchLayout, ThePageThatAnOperationBringsToTheFrontGetsTheFocus) {
   settle();
   EXPECT_TRUE(world.find("FgEv").hasFocus());
   const auto underlined = [&](const QString& caption) {
-    for (const auto* const label : world.screen->findChildren<ClickLabel*>())
-      if (label->text() == caption) return label->property("current").toBool();
+    for (auto* const label : world.screen->findChildren<ClickLabel*>())
+      if (label->text() == caption && label->isVisible()) {
+        const QImage picture = label->grab().toImage();
+        return pixel(picture, picture.width() / 2, picture.height() - 2) == Theme::current().colours().accent;
+      }
     ADD_FAILURE() << "no heading " << caption.toStdString();
     return false;
   };
@@ -223,7 +249,7 @@ TEST(WorkbenchLayout, HandlesStayWhereTheUserPutThemForEachDensity) {
     WorkbenchScreen world({1366, 768});
     QSplitter& rows = top(world);
     const QList<int> before = rows.sizes();
-    rows.setSizes({before[0] + 20, before[1] - 20});
+    rows.setSizes({before[0] - 40, before[1] + 40});
     Q_EMIT rows.splitterMoved(rows.sizes()[0], 1);  // as a dragged handle does
     moved = rows.sizes();
     EXPECT_NE(moved, before);
