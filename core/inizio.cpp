@@ -60,10 +60,12 @@ void Inizio::openArchive() {
   };
   try {
     return open();
-  } catch (const UserError&) {
+  } catch (const UserError& error) {
+    const bool first = m_program.PercorsoDbArchivio.empty();
     shell().message({.text = "Attenzione, la prima volta è necessario configurare l'origine dell'archivio",
                      .title = "Selezionare Archivio",
-                     .icon = Icon::Exclamation});
+                     .icon = Icon::Exclamation,
+                     .reason = first ? "" : error.what()});
   }
   bool chosen = true;
   try {
@@ -112,17 +114,23 @@ bool Inizio::SelezionaArchivio() {
 }
 
 void Inizio::Procedi() {
+  const auto failed = [this](std::string reason) {
+    pb1.set(0, 0);
+    shell().message({.text = std::string(kOtherArchive), .icon = Icon::Critical, .reason = std::move(reason)});
+  };
   try {
     // The bar counts the rows of the query's grid, the heading included.
     fillFgDB(loadArchive(m_program, [this](int row, int rows) { pb1.set(row, rows + 1); }), FgDB);
+  } catch (const UserError& error) {
+    return failed(error.what());
   } catch (const std::exception&) {
-    pb1.set(0, 0);
-    throw UserError(std::string(kOtherArchive));
+    return failed({});
   }
   // No archive could be opened at the start: the one now loaded is held from here on.
   if (m_program.DbArchivio == nullptr)
     m_program.DbArchivio = std::make_unique<Database>(m_program.PercorsoDbArchivio, FileKind::Archive);
   shell().show("Container");
+  shell().status(fmt::format("Archivio caricato: {} estrazioni", m_program.archive.NumEstrazioni()));
   shell().close(name());
 }
 

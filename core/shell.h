@@ -18,6 +18,7 @@ struct Box {
   std::string text;
   std::string title = "Avviso";
   Icon icon = Icon::Exclamation;
+  std::string reason = {};  ///< below the text in a quieter line, where a fixed text leaves open what went wrong
 };
 
 /// A box that asks for a line of text.

@@ -41,6 +41,7 @@ int boxWidth(const QWidget& box) {
 void prepare(QMessageBox& box, const Box& what) {
   box.setWindowTitle(qs(what.title));
   box.setText(qs(what.text));
+  box.setInformativeText(qs(what.reason));
   box.setTextFormat(Qt::PlainText);
   box.setIcon(iconOf(what.icon));
   if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))

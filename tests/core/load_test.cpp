@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "core/archive_load.h"
 #include "core/errors.h"
 #include "support/program_world.h"
@@ -34,6 +36,7 @@ TEST(Procedi, LoadsTheArchiveClosesInizioAndShowsTheShell) {
   EXPECT_TRUE(world.shell.shown.empty());
   EXPECT_FALSE(world.shell.isOpen("INIZIO"));
   EXPECT_TRUE(world.shell.isOpen("Container"));
+  EXPECT_EQ(world.shell.statusTexts, std::vector<std::string>{"Archivio caricato: 4 estrazioni"});
   const Archive& archive = world.program->archive;
   EXPECT_EQ(archive.NumEstrazioni(), 4);
   EXPECT_EQ(archive.UltimaEstrazione(), 4);
@@ -124,6 +127,18 @@ TEST(Procedi, AnArchiveWithoutTheTableShowsTheBoxAndKeepsInizio) {
   Database(world.folder / "Archivio.mdb", FileKind::Archive).execute("DROP TABLE EstrazioniLotto");
   world.start().Command2.press();
   expectFailedProcedi(world);
+}
+
+TEST(Procedi, TellsBesideTheFixedTextWhatWentWrong) {
+  ProgramWorld world;
+  world.makeBoth(fourDraws());
+  const std::filesystem::path archive = world.folder / "Archivio.mdb";
+  world.start();
+  std::ofstream(archive) << "un testo";
+  world.inizio().Command2.press();
+  expectFailedProcedi(world);
+  EXPECT_EQ(world.shell.reasons.back(),
+            "Il file \"" + archive.string() + "\" non può essere aperto: non è un file di dati di TRV5.");
 }
 
 TEST(Procedi, TakesNineThousandNineHundredNinetyNineDrawsAndRefusesOneMore) {

@@ -33,6 +33,7 @@ TEST(Start, AFirstStartWithAnEmptyPercorsoArchivioShowsTheBoxAndThenTheDialog) {
                                             .title = "Selezionare Archivio",
                                             .text = kFirstTime,
                                             .icon = Icon::Exclamation}));
+  EXPECT_EQ(world.shell.reasons.front(), "") << "nothing went wrong yet";
   EXPECT_EQ(world.shell.shown[1], (ShownBox{.kind = ShownBox::Kind::Open,
                                             .title = "File di archivio (*.Mdb)",
                                             .folder = world.folder.path(),
@@ -61,6 +62,8 @@ TEST(Start, AnArchiveThatDoesNotExistAsksForOneAndMakesNoFile) {
   world.makeMainFor(world.folder / "manca.mdb");
   world.start();
   EXPECT_EQ(world.shell.texts().front(), kFirstTime);
+  EXPECT_EQ(world.shell.reasons.front(),
+            "Il file \"" + (world.folder / "manca.mdb").string() + "\" non può essere aperto: il file non esiste.");
   EXPECT_FALSE(std::filesystem::exists(world.folder / "manca.mdb"));
 }
 

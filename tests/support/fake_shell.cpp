@@ -22,6 +22,7 @@ std::optional<FakeShell::Answer> FakeShell::take() {
 
 void FakeShell::message(const Box& box) {
   shown.push_back({.kind = ShownBox::Kind::Message, .title = box.title, .text = box.text, .icon = box.icon});
+  reasons.push_back(box.reason);
 }
 
 bool FakeShell::confirm(const Box& box) {

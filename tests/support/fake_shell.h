@@ -66,7 +66,7 @@ class FakeShell : public Shell {
   std::string clipboardText;
   std::vector<std::string> shownScreens, closedScreens;  ///< in the order of the calls
   std::vector<int> helpContexts;
-  std::vector<std::string> addresses, statusTexts;
+  std::vector<std::string> addresses, statusTexts, reasons;
   std::vector<std::pair<int, int>> progressValues;
   DateTime clock{2026, 8, 22, 10, 30, 15};  ///< what now() tells
   int quits = 0;
