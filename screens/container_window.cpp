@@ -26,6 +26,9 @@ constexpr int kWideRail = 304, kNarrowRail = 52;
 constexpr int kLeastArea = 1228;
 constexpr double kUsualPoints = 10.5;
 constexpr int kEdgeGap = 8;  // of a small screen at the right edge of the area
+// Properties of the frame of a small screen: the size told for the usual font; the one last given to the frame; whether
+// it is to have its natural size again.
+constexpr char kNaturalSize[] = "naturalSize", kFittedSize[] = "fittedSize", kToFit[] = "toFit";
 
 struct RailRow {
   const char* control;
@@ -55,6 +58,10 @@ bool hasShortcut(const QWidget* screen, const QKeySequence& key) {
          std::any_of(actions.begin(), actions.end(), [&](const QAction* a) { return a->shortcut() == key; });
 }
 
+bool standsAtRight(const QMdiSubWindow& window, int areaWidth) {
+  return window.x() > 0 && window.x() + window.width() >= areaWidth - kEdgeGap;
+}
+
 QLabel* quietLabel(const QString& text) {
   return Kit::text(text, Type::Small);
 }
@@ -74,9 +81,16 @@ ContainerWindow::ContainerWindow(Container& form)
   buildRail();
   buildStatusBar();
   buildKeys();
+  connect(&Theme::current(), &Theme::aboutToChange, this, [this] {
+    for (QMdiSubWindow* const window : m_area->subWindowList())
+      if (window->size() == window->property(kFittedSize).toSize()) window->setProperty(kToFit, true);
+  });
   connect(&Theme::current(), &Theme::changed, this, [this] {
     m_area->setBackground(toColor(Theme::current().colours().voidArea));
+    fitChip();
     layoutParts();
+    // Once the screens have laid out their parts anew: their least sizes are others then.
+    QMetaObject::invokeMethod(this, &ContainerWindow::fitSmallWindows, Qt::QueuedConnection);
   });
   setWide(true);
 }
@@ -144,6 +158,7 @@ void ContainerWindow::buildRail() {
   auto* const wide = new QVBoxLayout(m_wideOnly);
   wide->setContentsMargins(6, 6, 6, 6);
   buildStatusBlock(*wide);
+  fitChip();
   m_draws = m_kit.grid("FG5", {.samples = {QString(), QStringLiteral("8888"), QStringLiteral("88/88/8888"),
                                            QStringLiteral("888"), QStringLiteral("88")},
                                .folded = {0},
@@ -188,11 +203,14 @@ void ContainerWindow::buildStatusBlock(QBoxLayout& into) {
   lastIndex->setProperty("type", QStringLiteral("title"));
   block->addWidget(lastIndex, 4, 1);
 
+  // One word a line: a grid of labels doesn't ask one that wraps for its height.
   QLabel* const caption = m_kit.label("LblModello", Type::Small);
-  caption->setWordWrap(true);
-  QLabel* const count = m_kit.label("Lbl_Ev", Type::Large);
-  count->setProperty("chip", true);  // its green is a data colour: on white paper in the dark theme too
-  block->addWidget(holding(column({caption, holding(row({count, Piece::gap()})), Piece::gap()})), 1, 2, 4, 1);
+  caption->setText(caption->text().replace(u' ', u'\n'));
+  m_count = m_kit.label("Lbl_Ev", Type::Large);
+  m_count->setProperty("chip", true);  // its green is a data colour: on white paper in the dark theme too
+  QBoxLayout* const third = column({caption, holding(row({m_count, Piece::gap()})), Piece::gap()});
+  third->setSpacing(2);
+  block->addWidget(holding(third), 1, 2, 4, 1);
   for (int c = 0; c < 3; ++c) block->setColumnStretch(c, 1);
   panel->body()->addLayout(block);
   into.addWidget(panel);
@@ -257,9 +275,19 @@ void ContainerWindow::setWide(bool wide) {
   layoutParts();
 }
 
+// Paper around the figures of the count, where the theme shows it.
+void ContainerWindow::fitChip() {
+  const int edge = Theme::current().dark() ? 5 : 0;
+  m_count->setContentsMargins(edge, 0, edge, 0);
+}
+
+int ContainerWindow::railWidth() const {
+  return m_wide ? std::max(kWideRail, m_rail->minimumSizeHint().width()) : kNarrowRail;
+}
+
 void ContainerWindow::layoutParts() {
   const QSize size = m_centre->size();
-  const int rail = m_wide ? kWideRail : kNarrowRail;
+  const int rail = railWidth();
   const bool over = m_anyOpen && size.width() - rail < kLeastArea;
   const int left = over ? kNarrowRail : rail;
   m_rail->setGeometry(0, 0, rail, size.height());
@@ -303,11 +331,33 @@ void ContainerWindow::keepInSight(int widthBefore) {
     if (!window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) continue;
     const int right = std::max(0, m_area->width() - window->width());
     const int bottom = std::max(0, m_area->height() - window->height());
-    const bool atRight = window->x() + window->width() == widthBefore - kEdgeGap;
+    const bool atRight = standsAtRight(*window, widthBefore);
     const QPoint place(atRight ? std::max(0, right - kEdgeGap) : std::min(window->x(), right),
                        std::min(window->y(), bottom));
     if (place != window->pos()) window->move(place);
   }
+}
+
+// Natural sizes are told for the usual font.
+QSize ContainerWindow::naturalSize(const QMdiSubWindow& window) const {
+  const QSize told = window.property(kNaturalSize).toSize();
+  const QSize natural =
+      told.isValid() ? told * std::max(1.0, Theme::current().basePoints() / kUsualPoints) : window.widget()->sizeHint();
+  return natural.boundedTo(m_area->size());
+}
+
+// Small screens grow and shrink with the font, unless the user gave them a size.
+void ContainerWindow::fitSmallWindows() {
+  for (QMdiSubWindow* const window : m_area->subWindowList()) {
+    if (!window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) continue;
+    if (!window->property(kToFit).toBool()) continue;
+    const bool atRight = standsAtRight(*window, m_area->width());
+    window->resize(naturalSize(*window));
+    window->setProperty(kFittedSize, window->size());
+    window->setProperty(kToFit, false);
+    if (atRight) window->move(std::max(0, m_area->width() - kEdgeGap - window->width()), window->y());
+  }
+  keepInSight(m_area->width());
 }
 
 QMdiSubWindow* ContainerWindow::windowOf(const QWidget& screen) const {
@@ -328,9 +378,8 @@ void ContainerWindow::place(QWidget& screen, const ScreenEntry& entry) {
   window->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                          Qt::WindowStaysOnTopHint);
   window->setWindowIcon(programMark());
-  // Natural sizes are told for the usual font.
-  const QSize natural = entry.size * std::max(1.0, Theme::current().basePoints() / kUsualPoints);
-  const QSize size = (entry.size.isValid() ? natural : screen.sizeHint()).boundedTo(m_area->size());
+  window->setProperty(kNaturalSize, entry.size);
+  const QSize size = naturalSize(*window);
   const int left = entry.atRight ? m_area->width() - size.width() - kEdgeGap : (m_area->width() - size.width()) / 2;
   window->resize(size);
   window->move(std::max(0, left), std::max(0, (m_area->height() - size.height()) / 3));
@@ -338,6 +387,7 @@ void ContainerWindow::place(QWidget& screen, const ScreenEntry& entry) {
   escape->setContext(Qt::WidgetWithChildrenShortcut);
   connect(escape, &QShortcut::activated, window, &QMdiSubWindow::close);
   window->show();
+  window->setProperty(kFittedSize, window->size());
 }
 
 void ContainerWindow::bringToFront(QWidget& screen) {

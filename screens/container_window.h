@@ -64,8 +64,12 @@ class ContainerWindow : public QMainWindow {
   void buildStatusBar();
   void buildKeys();
   void layoutParts();
+  int railWidth() const;
+  void fitChip();
+  void fitSmallWindows();
   void keepInSight(int widthBefore);
   void setWide(bool wide);
+  QSize naturalSize(const QMdiSubWindow& window) const;
   QMdiSubWindow* windowOf(const QWidget& screen) const;
 
   struct ScreenButton {
@@ -88,6 +92,7 @@ class ContainerWindow : public QMainWindow {
   QWidget* m_filler = nullptr;
   GridView* m_draws = nullptr;
   QLabel *m_status = nullptr, *m_lastDate = nullptr, *m_lastIndex = nullptr;
+  QLabel* m_count = nullptr;
   QAction* m_resetBase = nullptr;
   bool m_wide = true, m_anyOpen = false;
   // What the user chose last while no screen is open, and while one is.

@@ -39,7 +39,12 @@ GridView::GridView(GridControl& grid, GridLook look, QWidget* parent)
     Q_EMIT columnsLaidOut();
   });
   connect(m_model, &GridModel::synced, this, &GridView::followGrid);
-  connect(&Theme::current(), &Theme::changed, this, &GridView::followTheme);
+  connect(&Theme::current(), &Theme::aboutToChange, this, [this] { m_keepEnd = atEnd(); });
+  connect(&Theme::current(), &Theme::changed, this, [this] {
+    followTheme();
+    updateGeometries();
+    if (m_keepEnd) scrollToBottom();
+  });
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &GridView::columnsLaidOut);
   m_grid.setListener([this] { followControl(); });
   setLook(m_look);
@@ -126,6 +131,10 @@ bool GridView::continuesAbove(int row, int column) const {
   if (above < m_grid.headingRows()) return false;
   const std::string& text = m_grid.text(row, column);
   return !text.empty() && m_grid.text(above, column) == text;
+}
+
+bool GridView::atEnd() const {
+  return m_look.atEnd && verticalScrollBar()->value() == verticalScrollBar()->maximum();
 }
 
 std::pair<int, int> GridView::columnSpan(int column) const {
@@ -241,11 +250,11 @@ QSize GridView::minimumSizeHint() const {
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
-  const bool atEnd = m_look.atEnd && verticalScrollBar()->value() == verticalScrollBar()->maximum();
+  const bool keepEnd = atEnd();
   QTableView::resizeEvent(event);
   layoutColumns();
   layoutRows();
-  if (atEnd) scrollToBottom();
+  if (keepEnd) scrollToBottom();
 }
 
 void GridView::changeEvent(QEvent* event) {

@@ -100,6 +100,7 @@ class GridView : public QTableView {
   int naturalWidth(int column) const;
   int evenWidth() const;
   int visibleRowCount() const;
+  bool atEnd() const;
   void paintEmptyText(QPainter& painter, int top);
   void paintLowRows(QPainter& painter);
   void paintFrames(QPainter& painter);
@@ -114,6 +115,7 @@ class GridView : public QTableView {
   std::set<int> m_hiddenRows;       // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;  // of columns that the user or "Adatta colonne" set
   int m_lastRows = 0;               // of the model when the view last followed it
+  bool m_keepEnd = false;           // the theme changes while the last row is in sight
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click
   std::pair<int, int> m_pressed{-1, -1};    // cell under the press, grid's counting

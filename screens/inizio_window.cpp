@@ -13,6 +13,15 @@
 #include "screens/theme.h"
 
 namespace trv5 {
+namespace {
+
+// A line never ends inside the arrow: word joiners stand between its hyphens.
+QString withWholeArrow(QString text) {
+  return text.replace(QStringLiteral("--"), QStringLiteral("-\u2060-\u2060"))
+      .replace(QStringLiteral("->"), QStringLiteral("-\u2060>"));
+}
+
+}  // namespace
 
 InizioWindow::InizioWindow(Inizio& form) : Screen(form) {
   setWindowIcon(programMark());
@@ -33,6 +42,7 @@ InizioWindow::InizioWindow(Inizio& form) : Screen(form) {
   QLabel* const caption = kit.label("Label5", Type::Hint);
   QLabel* const note = kit.label("Label1", Type::Hint);
   note->setWordWrap(true);
+  note->setText(withWholeArrow(note->text()));
   auto* const lines = new QGridLayout;
   lines->addWidget(archive, 0, 0);
   lines->addWidget(caption, 0, 1);

@@ -16,7 +16,7 @@ constexpr int kIcon = 24;
 RailButton::RailButton(const QString& iconName, QWidget* parent) : QToolButton(parent) {
   setIcon(trv5::icon(iconName));
   setFocusPolicy(Qt::StrongFocus);
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void RailButton::setWide(bool wide) {
@@ -36,6 +36,13 @@ QSize RailButton::sizeHint() const {
   if (!m_wide) return {52, height};
   const QFontMetrics metrics(m_large ? Theme::current().large() : font());
   return {52 + metrics.horizontalAdvance(text()) + 12, height};
+}
+
+// In a low window with a large font the buttons draw together before anything is cut.
+QSize RailButton::minimumSizeHint() const {
+  const QSize hint = sizeHint();
+  const QFontMetrics metrics(m_large ? Theme::current().large() : font());
+  return {hint.width(), std::min(hint.height(), std::max(kIcon, metrics.height()) + 8)};
 }
 
 void RailButton::paintEvent(QPaintEvent*) {

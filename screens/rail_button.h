@@ -18,6 +18,7 @@ class RailButton : public QToolButton {
   void setLarge(bool large) { m_large = large; }
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

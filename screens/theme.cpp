@@ -249,6 +249,7 @@ QString Theme::styleSheet() const {
 }
 
 void Theme::apply() {
+  Q_EMIT aboutToChange();
   m_app.setPalette(paletteOf(colours()));
   m_app.setFont(base());
   m_app.setStyleSheet(styleSheet());

@@ -116,6 +116,8 @@ class Theme : public QObject {
   QString styleSheet() const;
 
  Q_SIGNALS:
+  /// Colours or sizes are still the former ones.
+  void aboutToChange();
   /// Colours or sizes are others.
   void changed();
 

@@ -83,6 +83,37 @@ TEST(SmallScreens, TheButtonOfTheShellOpensTheMiniListAtTheRightEdge) {
   EXPECT_LE(free, 20);
 }
 
+TEST(SmallScreens, GrowAndShrinkWithTheFontAtTheRightEdge) {
+  SmallScreensWorld world;
+  world.shell.show("Estrazioni_minielenco");
+  settle();
+  const QMdiSubWindow& window = world.window("Estrazioni_minielenco");
+  const QRect usual = window.geometry();
+  const int free = window.mdiArea()->width() - usual.right();
+  Theme::edit().setBasePoints(14);
+  settle();
+  EXPECT_GT(window.width(), usual.width());
+  EXPECT_EQ(window.mdiArea()->width() - window.geometry().right(), free);
+  EXPECT_EQ(world.view("Estrazioni_minielenco", "fG2").verticalScrollBar()->maximum(), 0);
+  Theme::edit().setBasePoints(0);
+  settle();
+  EXPECT_EQ(window.size(), usual.size());
+  EXPECT_EQ(window.geometry().right(), usual.right());
+}
+
+TEST(SmallScreens, KeepTheSizeThatTheUserGaveThem) {
+  SmallScreensWorld world;
+  world.shell.show("Estrazioni_minielenco");
+  settle();
+  QMdiSubWindow& window = world.window("Estrazioni_minielenco");
+  window.resize(window.width() + 40, window.height() + 20);
+  const QSize chosen = window.size();
+  Theme::edit().setBasePoints(11);
+  settle();
+  EXPECT_EQ(window.size(), chosen);
+  Theme::edit().setBasePoints(0);
+}
+
 TEST(SmallScreens, StayInSightWhenTheShellGetsSmaller) {
   SmallScreensWorld world;
   world.container->resize(1900, 1000);

@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QTest>
+#include <QTextBoundaryFinder>
 #include <set>
 
 #include "core/errors.h"
@@ -42,6 +43,17 @@ TEST(InizioWindow, ShowsTheArchiveAndItsControlsUnderTheirNames) {
   EXPECT_EQ(world.button("INIZIO", "Command4").text().remove(u'&'), QStringLiteral("SELEZIONE ARCHIVIO"));
   EXPECT_NE(window.findChild<QProgressBar*>(QStringLiteral("pb1")), nullptr);
   EXPECT_EQ(window.minimumHeight(), window.maximumHeight());
+}
+
+TEST(InizioWindow, NoLineOfTheNoteEndsInsideItsArrow) {
+  WindowWorld world;
+  world.start();
+  const QString note = world.shell.widget("INIZIO")->findChild<QLabel*>(QStringLiteral("Label1"))->text();
+  const auto arrow = note.lastIndexOf(u' ') + 1;
+  EXPECT_EQ(note.mid(arrow).remove(QChar(0x2060)), QStringLiteral("------->"));
+  QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, note);
+  breaks.setPosition(arrow);
+  EXPECT_EQ(breaks.toNextBoundary(), note.size());
 }
 
 TEST(InizioWindow, MnemonicsAreUnique) {
@@ -142,6 +154,38 @@ TEST(ContainerWindow, TheListOfDrawsOpensAtItsEnd) {
     EXPECT_GT(draws->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(draws->verticalScrollBar()->value(), draws->verticalScrollBar()->maximum());
   }
+  for (const double points : {14.0, 0.0}) {
+    Theme::edit().setBasePoints(points);
+    settle();
+    EXPECT_EQ(draws->verticalScrollBar()->value(), draws->verticalScrollBar()->maximum()) << points;
+  }
+  draws->verticalScrollBar()->setValue(100);
+  Theme::edit().setBasePoints(14);
+  settle();
+  EXPECT_EQ(draws->verticalScrollBar()->value(), 100) << "the user's place is kept";
+  Theme::edit().setBasePoints(0);
+}
+
+TEST(ContainerWindow, NothingOfThePanelIsCutWithALargeFont) {
+  WindowWorld world;
+  ContainerWindow& window = world.proceed();
+  window.resize(1280, 720);
+  auto* const rail = window.findChild<QWidget*>(QStringLiteral("rail"));
+  for (const bool dark : {false, true}) {
+    Theme::edit().setDark(dark);
+    for (const double points : {10.0, 14.0, 16.0}) {
+      Theme::edit().setBasePoints(points);
+      settle();
+      for (const auto* const button : rail->findChildren<QAbstractButton*>())
+        EXPECT_GE(button->width(), button->sizeHint().width()) << points << " " << button->text().toStdString();
+      for (const auto* const label : rail->findChildren<QLabel*>()) {
+        EXPECT_GE(label->width(), label->sizeHint().width()) << points << " " << label->text().toStdString();
+        EXPECT_GE(label->height(), label->sizeHint().height()) << points << " " << label->text().toStdString();
+      }
+    }
+  }
+  Theme::edit().setDark(false);
+  Theme::edit().setBasePoints(0);
 }
 
 TEST(ContainerWindow, AButtonOfAScreenThatDoesNotExistIsDisabledAndSaysSo) {
