@@ -4,11 +4,14 @@
 set -euo pipefail
 bin=$(cd "$1" && pwd)
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-folder=$(mktemp -d)
+# The start screen shows this path.
+folder=/tmp/TRV5
+mkdir "$folder"
 trap 'rm -rf "$folder"' EXIT
-"$bin/trv5-data" demo "$folder/Archivio dimostrativo (simulato).mdb" >/dev/null
-"$bin/trv5-data" modello "$folder/DbTRV5.mdb" --archivio "$folder/Archivio dimostrativo (simulato).mdb" >/dev/null
 cd "$folder"
+archive="Archivio dimostrativo (simulato).mdb"
+"$bin/trv5-data" demo "$archive" >/dev/null
+"$bin/trv5-data" modello DbTRV5.mdb --archivio "$folder/$archive" >/dev/null
 XDG_CONFIG_HOME=$folder "$bin/trv5-console" <"$root/help/immagini.txt" >answers || { grep '"ok":false' answers; exit 1; }
 pngquant --nofs --force --ext .png 256 ./*.png
 mkdir -p "$root/help/img"
