@@ -6,6 +6,7 @@
 #include <QResizeEvent>
 #include <QStackedWidget>
 
+#include "screens/formula_samples.h"
 #include "screens/icons.h"
 #include "screens/kit.h"
 #include "screens/theme.h"
@@ -17,26 +18,9 @@ namespace {
 constexpr std::pair<int, const char*> kSections[] = {{0, "Ambate"}, {1, "Ambi"}, {2, "Terni"}, {4, "Lunghetta"}};
 
 std::vector<QString> candidateSamples() {
-  const QString two = QStringLiteral("88"), wheel = QStringLiteral("MI"), none;
-  return {two,
-          none,
-          wheel,
-          two,
-          none,
-          wheel,
-          two,
-          none,
-          wheel,
-          two,
-          QStringLiteral("N1 X N2"),
-          two,
-          QStringLiteral("888"),
-          two,
-          none,
-          none,
-          none,
-          QStringLiteral("DIAM"),
-          QStringLiteral("MI-MI-MI")};
+  std::vector<QString> samples = formulaSamples();
+  samples.push_back(QStringLiteral("MI-MI-MI"));
+  return samples;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <algorithm>
 
+#include "screens/formula_samples.h"
 #include "screens/theme.h"
 
 namespace trv5 {
@@ -10,28 +11,6 @@ namespace {
 
 // A formula is read best in a table no wider than this many figures.
 constexpr int kFormulaFigures = 69;
-
-std::vector<QString> formulaSamples() {
-  const QString two = QStringLiteral("88"), wheel = QStringLiteral("MI"), none;
-  return {two,
-          none,
-          wheel,
-          two,
-          none,
-          wheel,
-          two,
-          none,
-          wheel,
-          two,
-          QStringLiteral("N1 X N2"),
-          two,
-          QStringLiteral("888"),
-          two,
-          none,
-          none,
-          none,
-          QStringLiteral("DIAM")};
-}
 
 class TwoColumns : public QWidget {
  public:
