@@ -51,7 +51,7 @@ std::vector<ScreenEntry> allScreens() {
       loaded<Container>(entry<Container, ContainerWindow>("Container", Place::Window, {1920, 1080})),
       workbench(),
       atRight(loaded<MiniList>(
-          entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {620, 520}))),
+          entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {660, 490}))),
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed, {1000, 520}),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
