@@ -61,8 +61,8 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
       .repeatsAtZeroGetLost = button.repeatsAtZeroGetLost};
   const int steps = button.wheelsOfSet == 0 ? w.FgEv.dataRows() : static_cast<int>(request.wheelSets.size());
   if (button.movesProgress) w.shell().progress(0, steps);
-  for (std::size_t pass = 0; button.logsEachPass && pass < request.wheelSets.size(); ++pass) startLog(w);
   const std::vector<Candidate> ranking = searchAmbate(request);
+  if (button.logsEachPass) startLog(w);  // the log starts anew with every wheel set: the last one's time stays
   if (button.movesProgress) w.shell().progress(steps, steps);
   if (button.ownAlterations) keepLastElement(w, request);
 
