@@ -3,7 +3,7 @@
 # build. Without a display it runs a whole method on the demonstration archive and prints what the user would read.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
-. packaging/setup.sh
+. scripts/setup.sh
 
 case "${1-}" in
   "" | --build) ;;
@@ -27,6 +27,6 @@ fi
 echo
 echo "Nessun display: eseguo un metodo intero sull'archivio dimostrativo, senza finestre."
 demo=$PWD/build/release/dimostrazione
-packaging/demo.sh "$bin" "$demo"
+scripts/demo.sh "$bin" "$demo"
 echo
 echo "Immagini delle finestre: $demo/immagini"

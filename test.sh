@@ -3,7 +3,7 @@
 # the screens under sanitizers, the suite of the release with programs, package and the fingerprint of the searches.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
-. packaging/setup.sh
+. scripts/setup.sh
 
 phase() { printf '\n== %s (%d s)\n' "$*" "$SECONDS"; }
 
@@ -11,7 +11,7 @@ phase "Packages"
 ensure_packages "${packages[@]}" clang-format
 
 phase "Sources"
-packaging/check_sources.sh
+scripts/check_sources.sh
 
 # run_tests PRESET [CTEST OPTION...]
 run_tests() {
