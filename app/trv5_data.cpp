@@ -1,7 +1,7 @@
 #include <csignal>
 #include <iostream>
 
-#include "maintenance/data_commands.h"
+#include "provision/data_commands.h"
 
 int main(int argc, char** argv) {
   // A file beyond the allowed size is an error like a full disk, not the end of the program.

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "maintenance/demo_archive.h"
 #include "maintenance/formats/compressed_text.h"
 #include "maintenance/formats/published_history.h"
+#include "provision/demo_archive.h"
 
 namespace trv5 {
 namespace {

@@ -8,10 +8,10 @@
 #include <sstream>
 
 #include "core/database_files.h"
-#include "maintenance/data_commands.h"
-#include "maintenance/demo_archive.h"
 #include "maintenance/formats/compressed_text.h"
 #include "maintenance/formats/published_history.h"
+#include "provision/data_commands.h"
+#include "provision/demo_archive.h"
 #include "support/temp_folder.h"
 
 namespace trv5 {

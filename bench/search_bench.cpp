@@ -10,7 +10,7 @@
 
 #include "bench_tools.h"
 #include "engine/search.h"
-#include "maintenance/demo_archive.h"
+#include "provision/demo_archive.h"
 #include "support/plain_search.h"
 #include "support/search_fingerprint.h"
 

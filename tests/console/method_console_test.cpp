@@ -5,7 +5,7 @@
 
 #include <fstream>
 
-#include "maintenance/demo_archive.h"
+#include "provision/demo_archive.h"
 #include "support/console_process.h"
 #include "support/program_world.h"
 #include "support/workbench_world.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "maintenance/demo_archive.h"
+#include "provision/demo_archive.h"
 
 namespace trv5 {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "core/archive_load.h"
 #include "core/database.h"
-#include "maintenance/draw_days.h"
+#include "provision/draw_days.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 

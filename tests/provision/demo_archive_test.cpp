@@ -1,10 +1,10 @@
-#include "maintenance/demo_archive.h"
+#include "provision/demo_archive.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "maintenance/draw_days.h"
+#include "provision/draw_days.h"
 
 namespace trv5 {
 namespace {

@@ -1,8 +1,8 @@
-#include "maintenance/demo_archive.h"
+#include "provision/demo_archive.h"
 
 #include <numeric>
 
-#include "maintenance/draw_days.h"
+#include "provision/draw_days.h"
 
 namespace trv5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "maintenance/data_commands.h"
+#include "provision/data_commands.h"
 
 #include <fmt/format.h>
 
@@ -8,10 +8,10 @@
 #include <string_view>
 
 #include "core/database_files.h"
-#include "data/shipped_contents.h"
-#include "maintenance/demo_archive.h"
 #include "maintenance/formats/compressed_text.h"
 #include "maintenance/formats/published_history.h"
+#include "provision/demo_archive.h"
+#include "provision/shipped_contents.h"
 
 namespace trv5 {
 namespace {

@@ -1,6 +1,6 @@
-#include "data/shipped_contents.h"
+#include "provision/shipped_contents.h"
 
-#include "data/orthogonal_systems.h"
+#include "provision/orthogonal_systems.h"
 
 namespace trv5 {
 

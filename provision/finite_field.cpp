@@ -1,4 +1,4 @@
-#include "data/finite_field.h"
+#include "provision/finite_field.h"
 
 #include <stdexcept>
 

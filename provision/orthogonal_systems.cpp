@@ -1,4 +1,4 @@
-#include "data/orthogonal_systems.h"
+#include "provision/orthogonal_systems.h"
 
 #include <fmt/format.h>
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <tuple>
 
-#include "data/block_designs.h"
+#include "provision/block_designs.h"
 
 namespace trv5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "data/orthogonal_systems.h"
+#include "provision/orthogonal_systems.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <map>
 #include <set>
 
-#include "data/block_designs.h"
-#include "data/finite_field.h"
+#include "provision/block_designs.h"
+#include "provision/finite_field.h"
 
 namespace trv5 {
 namespace {

@@ -1,11 +1,11 @@
-#include "data/block_designs.h"
+#include "provision/block_designs.h"
 
 #include <algorithm>
 #include <array>
 #include <set>
 #include <stdexcept>
 
-#include "data/finite_field.h"
+#include "provision/finite_field.h"
 
 namespace trv5 {
 namespace {
