@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bench_tools.h"
-#include "engine/search.h"
+#include "method/search.h"
 #include "provision/demo_archive.h"
 #include "support/plain_search.h"
 #include "support/search_fingerprint.h"

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "cases/detection.h"
 #include "cases/selections.h"
 #include "core/numbers.h"
 #include "core/text.h"
+#include "method/detection.h"
 
 namespace trv5 {
 namespace {

@@ -1,6 +1,6 @@
 #include "cases/read_selections.h"
 
-#include "cases/detection.h"
+#include "method/detection.h"
 
 namespace trv5 {
 

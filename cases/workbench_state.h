@@ -6,15 +6,9 @@
 #include <vector>
 
 #include "core/wheels.h"
+#include "method/flags.h"
 
 namespace trv5 {
-
-inline constexpr int kMostCases = 50;  ///< rows that the case list keeps
-inline constexpr int kMostNumber = 90;
-
-using NumberFlags = std::array<bool, 91>;   ///< by number 1..90; index 0 stands for a wheel not drawn
-using PositionFlags = std::array<bool, 6>;  ///< by position 1..5; index 0 is unused
-using CaseFlags = std::array<bool, 51>;     ///< by row of `FgEv`, 1..50
 
 /// The working record of one evaluation of a formula. One record serves the whole workbench: a field that an evaluation
 /// doesn't assign keeps the value of the evaluation before, and users' saved methods rely on it.
@@ -31,9 +25,6 @@ struct ParametriFormula {
   int Elem1 = 0, Elem2 = 0, Elem3 = 0;
   int N1 = 0, N2 = 0, N3 = 0;  ///< the elements after the zero rule
 };
-
-/// Triples of positions p1 <= p2 <= p3, by [p1][p2][p3].
-using TripleFlags = std::array<std::array<std::array<bool, 6>, 6>, 6>;
 
 /// What the workbench remembers beside its controls. Operations set these fields from the controls when they run, and
 /// later operations read them as they stand: much of it is stale on purpose.

@@ -28,7 +28,7 @@ if(TRV5_SANITIZE)
 endif()
 
 # trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder. Its
-# include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/vote_counter.h" is found by the
+# include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/hit_rows.h" is found by the
 # users of engine only and an include in the wrong direction doesn't build.
 function(trv5_layer name)
   cmake_parse_arguments(L "" "" "USES;LINKS" ${ARGN})

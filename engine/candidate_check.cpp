@@ -8,12 +8,12 @@
 
 #include "core/text.h"
 #include "engine/colouring.h"
-#include "engine/companion_counts.h"
 #include "engine/evaluation.h"
-#include "engine/formula.h"
 #include "engine/formula_tables.h"
 #include "engine/hit_rows.h"
 #include "engine/verification.h"
+#include "method/companion_counts.h"
+#include "method/formula.h"
 
 namespace trv5 {
 namespace {

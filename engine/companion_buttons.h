@@ -3,7 +3,7 @@
 #include <array>
 
 #include "cases/workbench.h"
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 

@@ -5,7 +5,7 @@
 
 #include "core/numbers.h"
 #include "core/text.h"
-#include "engine/formula.h"
+#include "method/formula.h"
 
 namespace trv5 {
 namespace {

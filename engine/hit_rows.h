@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "cases/workbench.h"
-#include "engine/hits.h"
+#include "method/hits.h"
 
 namespace trv5 {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cases/workbench.h"
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 

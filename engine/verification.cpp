@@ -11,10 +11,10 @@
 #include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
-#include "engine/formula.h"
 #include "engine/hit_rows.h"
 #include "engine/lunghetta.h"
 #include "engine/statistics.h"
+#include "method/formula.h"
 
 namespace trv5 {
 namespace {

@@ -8,9 +8,9 @@
 
 #include "core/text.h"
 #include "engine/random_method.h"
-#include "engine/random_search.h"
 #include "support/plain_search.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 #include "support/workbench_snapshot.h"
 
 namespace trv5 {

@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "engine/candidate_check.h"
-#include "engine/formula.h"
 #include "engine/random_method.h"
-#include "engine/random_search.h"
+#include "method/formula.h"
 #include "support/plain_verification.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 
 namespace trv5 {
 namespace {

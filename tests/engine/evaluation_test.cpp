@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "engine/formula.h"
+#include "method/formula.h"
 #include "support/archive_builder.h"
 #include "support/plain_evaluation.h"
 #include "support/random_runs.h"

@@ -13,10 +13,10 @@
 #include "engine/evaluation.h"
 #include "engine/hit_rows.h"
 #include "engine/lunghetta.h"
-#include "engine/random_search.h"
 #include "engine/verified_method.h"
 #include "support/plain_search.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 #include "support/workbench_snapshot.h"
 
 namespace trv5 {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/random_search.h"
+#include "support/random_search.h"
 
 namespace trv5 {
 namespace {

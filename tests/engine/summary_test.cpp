@@ -6,10 +6,10 @@
 #include <string>
 
 #include "engine/hit_rows.h"
-#include "engine/random_search.h"
 #include "engine/statistics.h"
 #include "engine/verified_method.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 #include "support/workbench_snapshot.h"
 
 namespace trv5 {

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "engine/random_method.h"
-#include "engine/random_search.h"
 #include "support/plain_verification.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 
 namespace trv5 {
 namespace {

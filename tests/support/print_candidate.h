@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 

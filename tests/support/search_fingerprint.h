@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 

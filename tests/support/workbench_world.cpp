@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/formula.h"
 #include "engine/open_workbench.h"
+#include "method/formula.h"
 
 namespace trv5 {
 

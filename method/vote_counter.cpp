@@ -1,4 +1,4 @@
-#include "engine/vote_counter.h"
+#include "method/vote_counter.h"
 
 #include <algorithm>
 #include <bit>

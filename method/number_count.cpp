@@ -1,8 +1,8 @@
 #include <cstddef>
 #include <map>
 
-#include "engine/drawn_numbers.h"
-#include "engine/search.h"
+#include "method/drawn_numbers.h"
+#include "method/search.h"
 
 namespace trv5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "engine/random_search.h"
+#include "support/random_search.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "engine/companion_counts.h"
+#include "method/companion_counts.h"
 
 #include <algorithm>
 

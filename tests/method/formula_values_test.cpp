@@ -1,4 +1,4 @@
-#include "engine/formula_values.h"
+#include "method/formula_values.h"
 
 #include <gtest/gtest.h>
 

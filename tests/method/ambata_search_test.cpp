@@ -2,10 +2,10 @@
 
 #include <set>
 
-#include "engine/random_search.h"
 #include "support/archive_builder.h"
 #include "support/print_candidate.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 
 namespace trv5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "engine/hits.h"
+#include "method/hits.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "engine/hits.h"
+#include "method/hits.h"
 
 namespace trv5 {
 

@@ -1,4 +1,4 @@
-#include "engine/drawn_numbers.h"
+#include "method/drawn_numbers.h"
 
 #include <algorithm>
 

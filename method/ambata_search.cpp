@@ -1,8 +1,8 @@
 #include <cstddef>
 
-#include "engine/drawn_numbers.h"
-#include "engine/search.h"
-#include "engine/vote_counter.h"
+#include "method/drawn_numbers.h"
+#include "method/search.h"
+#include "method/vote_counter.h"
 
 namespace trv5 {
 namespace {

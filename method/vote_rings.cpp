@@ -1,4 +1,4 @@
-#include "engine/vote_rings.h"
+#include "method/vote_rings.h"
 
 #include <algorithm>
 #include <bit>

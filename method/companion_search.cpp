@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "engine/search.h"
-#include "engine/vote_counter.h"
+#include "method/search.h"
+#include "method/vote_counter.h"
 
 namespace trv5 {
 namespace {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "engine/random_search.h"
 #include "support/archive_builder.h"
 #include "support/print_candidate.h"
 #include "support/random_runs.h"
+#include "support/random_search.h"
 
 namespace trv5 {
 namespace {

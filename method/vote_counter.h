@@ -1,9 +1,9 @@
 #pragma once
 
-#include "cases/workbench_state.h"
-#include "engine/formula_values.h"
-#include "engine/ranking.h"
-#include "engine/vote_rings.h"
+#include "method/flags.h"
+#include "method/formula_values.h"
+#include "method/ranking.h"
+#include "method/vote_rings.h"
 
 namespace trv5 {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "cases/workbench_state.h"
 #include "core/archive.h"
+#include "method/flags.h"
 
 namespace trv5 {
 

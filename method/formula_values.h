@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/search.h"
+#include "method/search.h"
 
 namespace trv5 {
 

@@ -1,4 +1,4 @@
-#include "engine/formula.h"
+#include "method/formula.h"
 
 #include <algorithm>
 

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/wheels.h"
-#include "engine/formula.h"
+#include "method/flags.h"
+#include "method/formula.h"
 
 namespace trv5 {
 

@@ -1,4 +1,4 @@
-#include "cases/detection.h"
+#include "method/detection.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "engine/search.h"
+#include "method/search.h"
 #include "support/plain_search.h"
 
 namespace trv5 {

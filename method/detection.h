@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "cases/workbench_state.h"
 #include "core/archive.h"
+#include "method/flags.h"
 
 namespace trv5 {
 
