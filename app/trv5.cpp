@@ -5,10 +5,10 @@
 
 #include "core/errors.h"
 #include "core/program.h"
-#include "screens/icons.h"
-#include "screens/qt_shell.h"
-#include "screens/run_place.h"
-#include "screens/theme.h"
+#include "screens/kit/icons.h"
+#include "screens/kit/theme.h"
+#include "screens/shell/qt_shell.h"
+#include "screens/shell/run_place.h"
 
 // The desktop program. It has no options: what the user sets lives in the program's folder.
 int main(int argc, char** argv) {

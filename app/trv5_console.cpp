@@ -5,7 +5,7 @@
 
 #include "console/console.h"
 #include "console/offscreen_platform.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 // The offscreen platform tells what it can't do with windows; nobody is there to see them.
 static void complain(QtMsgType, const QMessageLogContext&, const QString& text) {

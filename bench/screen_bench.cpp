@@ -9,9 +9,9 @@
 #include <QScrollBar>
 
 #include "bench_tools.h"
-#include "screens/Sommativi1.h"
-#include "screens/grid_view.h"
-#include "screens/theme.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/theme.h"
+#include "screens/workbench/Sommativi1.h"
 #include "support/workbench_world.h"
 
 namespace trv5 {
@@ -68,7 +68,7 @@ void prepare(WorkbenchWorld& world) {
   world.press("Command44");
 }
 
-void benchSearches(WorkbenchWorld& world, Sommativi1& screen) {
+void benchSearches(WorkbenchWorld& world, Sommativi1Screen& screen) {
   auto& view = *screen.findChild<GridView*>(QStringLiteral("FgF"));
   Paintings paintings(*view.viewport());
   for (const auto& [button, name] : {std::pair("Command20", "1N 1R"), std::pair("Command23", "2N 1R"),
@@ -87,7 +87,7 @@ void benchSearches(WorkbenchWorld& world, Sommativi1& screen) {
   }
 }
 
-void benchHits(WorkbenchWorld& world, Sommativi1& screen) {
+void benchHits(WorkbenchWorld& world, Sommativi1Screen& screen) {
   constexpr int kRows = 5000;
   Grid& hits = world.w.FgZ1.grid();
   {
@@ -125,7 +125,7 @@ void benchHits(WorkbenchWorld& world, Sommativi1& screen) {
 }
 
 void benchScreen(WorkbenchWorld& world) {
-  const double seconds = secondsOf([&] { Sommativi1(world.w).resize(1314, 740); }, kSeconds);
+  const double seconds = secondsOf([&] { Sommativi1Screen(world.w).resize(1314, 740); }, kSeconds);
   fmt::print("{:<56} {:>8.2f} ms\n", "the workbench's widgets made", seconds * 1e3);
 }
 
@@ -136,7 +136,7 @@ int run(int argc, char** argv) {
   theme.setWindowHeight(1080);
   WorkbenchWorld world(archiveToMeasure(argc, argv));
   benchScreen(world);
-  Sommativi1 screen(world.w);
+  Sommativi1Screen screen(world.w);
   screen.resize(1868, 1052);
   screen.show();
   prepare(world);

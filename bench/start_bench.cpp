@@ -10,9 +10,9 @@
 
 #include "bench_tools.h"
 #include "core/archive_load.h"
-#include "screens/grid_view.h"
-#include "screens/qt_shell.h"
-#include "screens/theme.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/theme.h"
+#include "screens/shell/qt_shell.h"
 #include "support/program_world.h"
 
 namespace trv5 {

@@ -28,15 +28,17 @@ void readSelections(Workbench& w) {
 }
 
 // False when the run stops for want of a usable value.
-bool valuesAreUsable(Workbench& w, Kind kind) {
+bool valuesAreUsable(Workbench& w, SituationKind kind) {
   const std::string text = asciiText(w.TxtNumeri.text());
-  const bool needsValue = kind != Kind::NumPari && kind != Kind::Ciclo && kind != Kind::Mensile;
+  const bool needsValue =
+      kind != SituationKind::NumPari && kind != SituationKind::Ciclo && kind != SituationKind::Mensile;
   if (needsValue && text.empty()) {
     w.shell().message({.text = "Attenzione: Selezionare almeno un valore"});
     w.SSTab1.set(kTabSelections);
     return false;
   }
-  const bool oneValue = kind == Kind::Differenza || kind == Kind::Distanza || kind == Kind::Somma;
+  const bool oneValue =
+      kind == SituationKind::Differenza || kind == SituationKind::Distanza || kind == SituationKind::Somma;
   if (oneValue && text.size() >= 3) {
     w.shell().message({.text = "Attenzione: per Distanza, Differenza e Somma, selezionare un solo valore"});
     w.TxtNumeri.set("");
@@ -59,7 +61,7 @@ void readNumbers(Workbench& w) {
   }
 }
 
-Situation situationOf(const Workbench& w, Kind kind) {
+Situation situationOf(const Workbench& w, SituationKind kind) {
   return {.kind = kind,
           .reference = w.EstrazioneRiferimento,
           .maxCases = w.MaxCasi,
@@ -103,14 +105,14 @@ void writeCases(Workbench& w, const std::vector<FoundCase>& cases) {
 
 void RicavaElencoEstrazioni(Workbench& w) {
   readSelections(w);
-  const Kind kind = kindOf(w.TipoRilevazione).value_or(Kind::Mensile);
+  const SituationKind kind = situationKindOf(w.TipoRilevazione).value_or(SituationKind::Mensile);
   if (!valuesAreUsable(w, kind)) return;
   w.Colpi = w.ComboColpi.number();
   w.ValoreMensile = w.ComboPar.index();
   w.MaxCasi = w.ComboNC.number();
   w.DecineScelte = w.CadenzeScelte = w.FigureScelte = {};
-  if (kind != Kind::Mensile) readNumbers(w);
-  if (kind == Kind::Ciclo && w.ValoreMensile < 5)
+  if (kind != SituationKind::Mensile) readNumbers(w);
+  if (kind == SituationKind::Ciclo && w.ValoreMensile < 5)
     w.shell().message({.text =
                            "Quanso è selezionata la rilevazione per ciclo la dursta non può essere inferiore a 5. Va "
                            "impostata dalla lista Mensile"});
@@ -119,7 +121,7 @@ void RicavaElencoEstrazioni(Workbench& w) {
   const Grid::Batch batch(w.FgEv);
   w.FgEv.cutToHeading();
   w.NumeroCasi = 0;
-  if (w.Ch_analisi2ruote.checked() && kind == Kind::Distanza && numberOf(w.TxtNumeri.text()) > 45) {
+  if (w.Ch_analisi2ruote.checked() && kind == SituationKind::Distanza && numberOf(w.TxtNumeri.text()) > 45) {
     w.shell().message({.text = "Selezionare un valore compreso tra 1 e 45"});
     return;
   }

@@ -5,19 +5,20 @@
 namespace trv5 {
 
 void MarcaSelezioniLette(Workbench& w) {
-  const Kind kind = kindOf(w.ComboFiltro.text()).value_or(Kind::Mensile);
+  const SituationKind kind = situationKindOf(w.ComboFiltro.text()).value_or(SituationKind::Mensile);
   const bool two = w.Ch_analisi2ruote.checked();
-  const bool numbers = kind == Kind::Numeri;
-  const bool pairs = kind == Kind::Distanza || kind == Kind::Differenza || kind == Kind::Somma;
+  const bool numbers = kind == SituationKind::Numeri;
+  const bool pairs =
+      kind == SituationKind::Distanza || kind == SituationKind::Differenza || kind == SituationKind::Somma;
   const bool valued = numbers || pairs;
-  const bool period = kind == Kind::Mensile || kind == Kind::Ciclo || kind == Kind::NumPari;
+  const bool period = kind == SituationKind::Mensile || kind == SituationKind::Ciclo || kind == SituationKind::NumPari;
 
   const auto reads = [](Control& control, bool read) { control.setAside(!read); };
   reads(w.ComboPar, !two && period);
   reads(w.ComboR1, !two);
   reads(w.ComboQNu, !two && valued);
-  reads(w.Ch_ultima, !two && kind == Kind::Mensile);
-  for (const auto& [position, label] : w.LblPN) reads(*label, two ? valued : valued || kind == Kind::NumPari);
+  reads(w.Ch_ultima, !two && kind == SituationKind::Mensile);
+  for (const auto& [position, label] : w.LblPN) reads(*label, two ? valued : valued || kind == SituationKind::NumPari);
   reads(w.TxtNumeri, valued);
   // One element looks back among numbers alone, and there only whether it looks back at all.
   reads(w.ComboRetro, two ? valued : numbers);

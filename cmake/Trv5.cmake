@@ -27,13 +27,12 @@ if(TRV5_SANITIZE)
   target_link_options(trv5_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder. Its
-# include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/hit_rows.h" is found by the
-# users of engine only and an include in the wrong direction doesn't build.
+# trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder and those
+# inside it. Its include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/hit_rows.h" is
+# found by the users of engine only and an include in the wrong direction doesn't build.
 function(trv5_layer name)
   cmake_parse_arguments(L "" "" "USES;LINKS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h
-       ${CMAKE_CURRENT_SOURCE_DIR}/formats/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/formats/*.h)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_library(trv5_${name} STATIC ${sources})
   set_target_properties(trv5_${name} PROPERTIES LINKER_LANGUAGE CXX)
   set(root ${CMAKE_BINARY_DIR}/roots/${name})

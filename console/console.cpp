@@ -8,9 +8,9 @@
 #include "core/dates.h"
 #include "core/errors.h"
 #include "core/text.h"
-#include "screens/container_window.h"
-#include "screens/help_viewer.h"
-#include "screens/run_place.h"
+#include "screens/shell/Container.h"
+#include "screens/shell/help_viewer.h"
+#include "screens/shell/run_place.h"
 
 namespace trv5 {
 namespace {

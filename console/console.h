@@ -8,7 +8,7 @@
 
 #include "console/console_shell.h"
 #include "core/program.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 class QWidget;
 

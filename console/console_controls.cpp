@@ -5,8 +5,8 @@
 #include "console/arguments.h"
 #include "console/console.h"
 #include "console/control_actions.h"
-#include "screens/grid_view.h"
-#include "screens/theme.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 namespace {

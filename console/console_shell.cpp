@@ -1,6 +1,6 @@
 #include "console/console_shell.h"
 
-#include "screens/grid_print.h"
+#include "screens/kit/grid_print.h"
 
 namespace trv5 {
 

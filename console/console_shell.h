@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "screens/qt_shell.h"
+#include "screens/shell/qt_shell.h"
 
 namespace trv5 {
 

@@ -13,8 +13,8 @@
 #include "console/console.h"
 #include "console/key_names.h"
 #include "core/errors.h"
-#include "screens/container_window.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
+#include "screens/shell/Container.h"
 
 namespace trv5 {
 namespace {

@@ -13,8 +13,8 @@
 
 #include "console/arguments.h"
 #include "core/dates.h"
-#include "screens/click_label.h"
-#include "screens/theme.h"
+#include "screens/kit/click_label.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 namespace {

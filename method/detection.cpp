@@ -18,19 +18,19 @@ int distance(int a, int b) {
 }
 
 // The value that a kind makes of two numbers 0..90; 0 is never a chosen number.
-int pairValue(Kind kind, int a, int b) {
+int pairValue(SituationKind kind, int a, int b) {
   switch (kind) {
-    case Kind::Distanza:
+    case SituationKind::Distanza:
       return distance(a, b);
-    case Kind::Differenza:
+    case SituationKind::Differenza:
       return std::abs(a - b);
     default:
       return fold90(a + b);
   }
 }
 
-bool isPairKind(Kind kind) {
-  return kind == Kind::Distanza || kind == Kind::Differenza || kind == Kind::Somma;
+bool isPairKind(SituationKind kind) {
+  return kind == SituationKind::Distanza || kind == SituationKind::Differenza || kind == SituationKind::Somma;
 }
 
 class Detector {
@@ -56,23 +56,23 @@ class Detector {
   void strike(int position) { m_struck[static_cast<std::size_t>(position)] = true; }
 
   std::optional<FoundCase> oneElement(int draw) {
-    if (m_s.kind != Kind::Ciclo) m_struck = {};
+    if (m_s.kind != SituationKind::Ciclo) m_struck = {};
     if (!oneElementMatches(draw)) return std::nullopt;
     return FoundCase{{draw, m_s.wheel, m_struck}, std::nullopt};
   }
 
   bool oneElementMatches(int draw) {
     switch (m_s.kind) {
-      case Kind::Mensile:
+      case SituationKind::Mensile:
         return monthlyMatches(draw);
-      case Kind::Ciclo:
+      case SituationKind::Ciclo:
         return cycleMatches();
-      case Kind::Numeri: {
+      case SituationKind::Numeri: {
         const int count = strikeWhere(draw, [this](int n) { return n > 0 && chosen(n); });
         // Looking back, any match will do: users' saved methods rely on it.
         return m_s.back == 0 ? count >= m_s.quantity : count > 0;
       }
-      case Kind::NumPari: {
+      case SituationKind::NumPari: {
         const int count = strikeWhere(draw, [](int n) { return n > 0 && n % 2 == 0; });
         const bool any = std::find(m_s.positions.begin(), m_s.positions.end(), true) != m_s.positions.end();
         return any && count == m_s.period;
@@ -122,14 +122,14 @@ class Detector {
 
   // The first match in the order: wheel, first element's positions, second element, its positions.
   std::optional<FoundCase> twoElements(int draw) const {
-    if (m_s.kind != Kind::Numeri && !isPairKind(m_s.kind)) return std::nullopt;
+    if (m_s.kind != SituationKind::Numeri && !isPairKind(m_s.kind)) return std::nullopt;
     for (int wheel = 0; wheel < kWheels; ++wheel) {
       if (!holds(m_s.wheels, wheel)) continue;
       const std::vector<FoundElement> seconds = secondElements(draw, wheel);
       const FoundElement first{draw, wheel, {}};
-      std::optional<FoundCase> found = m_s.kind == Kind::Numeri ? matchNumbers(first, seconds)
-                                       : m_s.oneToOne           ? matchOneToOne(first, seconds)
-                                                                : matchPairs(first, seconds);
+      std::optional<FoundCase> found = m_s.kind == SituationKind::Numeri ? matchNumbers(first, seconds)
+                                       : m_s.oneToOne                    ? matchOneToOne(first, seconds)
+                                                                         : matchPairs(first, seconds);
       if (found) return found;
     }
     return std::nullopt;
@@ -218,10 +218,10 @@ class Detector {
 
 }  // namespace
 
-std::optional<Kind> kindOf(std::string_view text) {
+std::optional<SituationKind> situationKindOf(std::string_view text) {
   const auto it = std::find(kKinds.begin(), kKinds.end(), text);
   if (it == kKinds.end()) return std::nullopt;
-  return static_cast<Kind>(it - kKinds.begin());
+  return static_cast<SituationKind>(it - kKinds.begin());
 }
 
 std::vector<FoundCase> detectCases(const Archive& archive, const Situation& situation, PositionFlags& struck) {

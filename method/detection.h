@@ -10,14 +10,14 @@
 namespace trv5 {
 
 /// The kinds of situation, in the order of their list.
-enum class Kind { Mensile, Numeri, Distanza, Differenza, Somma, Ciclo, NumPari };
+enum class SituationKind { Mensile, Numeri, Distanza, Differenza, Somma, Ciclo, NumPari };
 
 /// The kind of an item of the list; nothing for another text.
-std::optional<Kind> kindOf(std::string_view text);
+std::optional<SituationKind> situationKindOf(std::string_view text);
 
 /// A recurring situation: what a draw must show to be a case.
 struct Situation {
-  Kind kind = Kind::Mensile;
+  SituationKind kind = SituationKind::Mensile;
   int reference = 1;    ///< draw index of the first draw examined; the scan goes back from there
   int maxCases = 10;    ///< tested after each case, so 0 gives one
   int wheel = 0;        ///< one element: the wheel 0..10

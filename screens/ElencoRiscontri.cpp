@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 
@@ -10,9 +10,9 @@ ElencoRiscontriScreen::ElencoRiscontriScreen(ElencoRiscontri& form) : Screen(for
   auto* const layout = new QVBoxLayout(this);
   const int unit = Theme::current().unit();
   layout->setContentsMargins(unit, unit, unit, unit);
-  layout->addLayout(flow({kit.button("Stampa_Fg1", {.kind = Kind::Quiet, .icon = "print", .mnemonic = 'S'}),
-                          kit.button("Copia_Fg1", {.kind = Kind::Quiet, .icon = "copy", .mnemonic = 'C'}),
-                          kit.button("Pulisce_Fg1", {.kind = Kind::Quiet, .icon = "broom", .mnemonic = 'P'})}));
+  layout->addLayout(flow({kit.button("Stampa_Fg1", {.kind = ButtonKind::Quiet, .icon = "print", .mnemonic = 'S'}),
+                          kit.button("Copia_Fg1", {.kind = ButtonKind::Quiet, .icon = "copy", .mnemonic = 'C'}),
+                          kit.button("Pulisce_Fg1", {.kind = ButtonKind::Quiet, .icon = "broom", .mnemonic = 'P'})}));
   const QString number = QStringLiteral("88"), draw = QStringLiteral("8888"), date = QStringLiteral("88/88/8888");
   layout->addWidget(kit.grid("Fg1", {.samples = {number, draw,
                                                  date,   number,

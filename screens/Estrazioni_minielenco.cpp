@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 namespace {

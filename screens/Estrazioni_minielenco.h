@@ -1,7 +1,7 @@
 #pragma once
 
 #include "maintenance/mini_list.h"
-#include "screens/screen.h"
+#include "screens/kit/screen.h"
 
 namespace trv5 {
 

@@ -3,7 +3,7 @@
 #include <QVBoxLayout>
 
 #include "cases/case_list.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 

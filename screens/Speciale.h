@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/result_forms.h"
-#include "screens/screen.h"
+#include "screens/kit/screen.h"
 
 namespace trv5 {
 

@@ -6,6 +6,8 @@
 
 #include "console/grid_dump.h"
 #include "console/key_names.h"
+#include "screens/kit/screen.h"
+#include "screens/shell/registry.h"
 #include "support/program_world.h"
 
 namespace trv5 {

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "console/offscreen_platform.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 // Tests that run the console in their own process need Qt; those that start the program don't mind.
 int main(int argc, char** argv) {

@@ -1,4 +1,4 @@
-#include "screens/bindings.h"
+#include "screens/kit/bindings.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@
 #include <QTest>
 
 #include "form_world.h"
-#include "screens/click_label.h"
-#include "screens/kit.h"
+#include "screens/kit/click_label.h"
+#include "screens/kit/kit.h"
 
 namespace trv5 {
 namespace {

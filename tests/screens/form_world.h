@@ -5,8 +5,8 @@
 #include <QWidget>
 
 #include "core/controls.h"
-#include "screens/grid_view.h"
-#include "screens/ink.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/ink.h"
 #include "support/fake_shell.h"
 
 namespace trv5 {

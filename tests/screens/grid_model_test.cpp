@@ -1,4 +1,4 @@
-#include "screens/grid_model.h"
+#include "screens/kit/grid_model.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "screens/grid_print.h"
+#include "screens/kit/grid_print.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include "core/errors.h"
 #include "form_world.h"
-#include "screens/grid_export.h"
+#include "screens/kit/grid_export.h"
 #include "support/temp_folder.h"
 
 namespace trv5 {

@@ -1,4 +1,4 @@
-#include "screens/grid_view.h"
+#include "screens/kit/grid_view.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@
 #include <QTest>
 
 #include "form_world.h"
-#include "screens/grid_delegate.h"
-#include "screens/ink.h"
-#include "screens/theme.h"
+#include "screens/kit/grid_delegate.h"
+#include "screens/kit/ink.h"
+#include "screens/kit/theme.h"
 
 namespace trv5 {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 // Windows without a display, under the looks of the program.
 int main(int argc, char** argv) {

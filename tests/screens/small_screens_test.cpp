@@ -12,7 +12,7 @@
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "screens/EvoluzioneGrafica.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 #include "window_world.h"
 
 namespace trv5 {
@@ -28,7 +28,7 @@ struct SmallScreensWorld {
     shell.show("INIZIO");
     static_cast<Inizio&>(*shell.form("INIZIO")).Command2.press();
     settle();
-    container = qobject_cast<ContainerWindow*>(shell.widget("Container"));
+    container = qobject_cast<ContainerScreen*>(shell.widget("Container"));
     container->resize(1366, 768);
     container->activateWindow();
     settle();
@@ -45,7 +45,7 @@ struct SmallScreensWorld {
   ProgramWorld files;
   QuietShell shell{allScreens()};
   Program program{shell, files.folder.path()};
-  ContainerWindow* container = nullptr;
+  ContainerScreen* container = nullptr;
 };
 
 TEST(SmallScreens, ExistWithTheirTitles) {

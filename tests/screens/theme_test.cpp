@@ -1,4 +1,4 @@
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QPalette>
 
-#include "screens/ink.h"
+#include "screens/kit/ink.h"
 
 namespace trv5 {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "core/program.h"
 #include "form_world.h"
-#include "screens/container_window.h"
-#include "screens/qt_shell.h"
+#include "screens/shell/Container.h"
+#include "screens/shell/qt_shell.h"
 #include "support/program_world.h"
 
 namespace trv5 {
@@ -93,11 +93,11 @@ struct WindowWorld {
     shell.show("INIZIO");
     settle();
   }
-  ContainerWindow& proceed() {
+  ContainerScreen& proceed() {
     start();
     button("INIZIO", "Command2").click();
     settle();
-    auto* const window = qobject_cast<ContainerWindow*>(shell.widget("Container"));
+    auto* const window = qobject_cast<ContainerScreen*>(shell.widget("Container"));
     EXPECT_NE(window, nullptr);
     window->resize(1366, 768);
     window->activateWindow();

@@ -12,8 +12,8 @@
 #include <set>
 
 #include "core/errors.h"
-#include "screens/help_viewer.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
+#include "screens/shell/help_viewer.h"
 #include "window_world.h"
 
 namespace trv5 {
@@ -32,7 +32,7 @@ std::multiset<QChar> mnemonicsOf(const QWidget& window) {
   return letters;
 }
 
-TEST(InizioWindow, ShowsTheArchiveAndItsControlsUnderTheirNames) {
+TEST(InizioScreen, ShowsTheArchiveAndItsControlsUnderTheirNames) {
   WindowWorld world;
   world.start();
   QWidget& window = *world.shell.widget("INIZIO");
@@ -45,7 +45,7 @@ TEST(InizioWindow, ShowsTheArchiveAndItsControlsUnderTheirNames) {
   EXPECT_EQ(window.minimumHeight(), window.maximumHeight());
 }
 
-TEST(InizioWindow, NoLineOfTheNoteEndsInsideItsArrow) {
+TEST(InizioScreen, NoLineOfTheNoteEndsInsideItsArrow) {
   WindowWorld world;
   world.start();
   const QString note = world.shell.widget("INIZIO")->findChild<QLabel*>(QStringLiteral("Label1"))->text();
@@ -56,7 +56,7 @@ TEST(InizioWindow, NoLineOfTheNoteEndsInsideItsArrow) {
   EXPECT_EQ(breaks.toNextBoundary(), note.size());
 }
 
-TEST(InizioWindow, MnemonicsAreUnique) {
+TEST(InizioScreen, MnemonicsAreUnique) {
   WindowWorld world;
   world.start();
   for (const QChar letter : mnemonicsOf(*world.shell.widget("INIZIO")))
@@ -64,7 +64,7 @@ TEST(InizioWindow, MnemonicsAreUnique) {
   EXPECT_EQ(mnemonicsOf(*world.shell.widget("INIZIO")).size(), 4u);
 }
 
-TEST(InizioWindow, EnterIsProcediAndEscIsNothing) {
+TEST(InizioScreen, EnterIsProcediAndEscIsNothing) {
   WindowWorld world;
   world.start();
   QTest::keyClick(world.shell.widget("INIZIO"), Qt::Key_Escape);
@@ -75,7 +75,7 @@ TEST(InizioWindow, EnterIsProcediAndEscIsNothing) {
   EXPECT_EQ(world.shell.openScreens(), std::vector<std::string>{"Container"});
 }
 
-TEST(InizioWindow, EnterOnAnotherButtonPressesThatOne) {
+TEST(InizioScreen, EnterOnAnotherButtonPressesThatOne) {
   WindowWorld world;
   world.start();
   QAbstractButton& fine = world.button("INIZIO", "Command3");
@@ -85,14 +85,14 @@ TEST(InizioWindow, EnterOnAnotherButtonPressesThatOne) {
   EXPECT_EQ(world.shell.openScreens(), std::vector<std::string>{"INIZIO"});
 }
 
-TEST(InizioWindow, TheCrossOfTheWindowIsFine) {
+TEST(InizioScreen, TheCrossOfTheWindowIsFine) {
   WindowWorld world;
   world.start();
   world.shell.widget("INIZIO")->close();
   EXPECT_EQ(world.shell.quits, 1);
 }
 
-TEST(InizioWindow, F1ShowsItsPage) {
+TEST(InizioScreen, F1ShowsItsPage) {
   WindowWorld world;
   world.start();
   QTest::keyClick(world.shell.widget("INIZIO"), Qt::Key_F1);
@@ -100,7 +100,7 @@ TEST(InizioWindow, F1ShowsItsPage) {
   EXPECT_EQ(world.shell.helpViewer()->page().toString(), QStringLiteral("qrc:/help/avvio.html#inizio"));
 }
 
-TEST(InizioWindow, ProcediDestroysItAndFillsItsBar) {
+TEST(InizioScreen, ProcediDestroysItAndFillsItsBar) {
   WindowWorld world;
   world.start();
   const QPointer<QWidget> window = world.shell.widget("INIZIO");
@@ -110,9 +110,9 @@ TEST(InizioWindow, ProcediDestroysItAndFillsItsBar) {
   EXPECT_TRUE(window.isNull());
 }
 
-TEST(ContainerWindow, ShowsTheStatusBlockAndTheListOfDraws) {
+TEST(ContainerScreen, ShowsTheStatusBlockAndTheListOfDraws) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   EXPECT_EQ(window.windowTitle(), QStringLiteral("TRV 5"));
   const auto text = [&](const char* name) { return window.findChild<QLabel*>(QLatin1String(name))->text(); };
   EXPECT_EQ(text("LblInizio"), QStringLiteral("07/01/1939"));
@@ -127,7 +127,7 @@ TEST(ContainerWindow, ShowsTheStatusBlockAndTheListOfDraws) {
   EXPECT_TRUE(draws->isColumnHidden(0)) << "empty in all rows";
 }
 
-TEST(ContainerWindow, TheListOfDrawsOpensAtItsEnd) {
+TEST(ContainerScreen, TheListOfDrawsOpensAtItsEnd) {
   WindowWorld world;
   std::vector<DrawRow> rows;
   for (int day = 1; day <= 28; ++day)
@@ -166,9 +166,9 @@ TEST(ContainerWindow, TheListOfDrawsOpensAtItsEnd) {
   Theme::edit().setBasePoints(0);
 }
 
-TEST(ContainerWindow, NothingOfThePanelIsCutWithALargeFont) {
+TEST(ContainerScreen, NothingOfThePanelIsCutWithALargeFont) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   window.resize(1280, 720);
   auto* const rail = window.findChild<QWidget*>(QStringLiteral("rail"));
   for (const bool dark : {false, true}) {
@@ -188,7 +188,7 @@ TEST(ContainerWindow, NothingOfThePanelIsCutWithALargeFont) {
   Theme::edit().setBasePoints(0);
 }
 
-TEST(ContainerWindow, AButtonOfAScreenThatDoesNotExistIsDisabledAndSaysSo) {
+TEST(ContainerScreen, AButtonOfAScreenThatDoesNotExistIsDisabledAndSaysSo) {
   WindowWorld world;
   world.proceed();
   QAbstractButton& missing = world.button("Container", "Command6");
@@ -197,9 +197,9 @@ TEST(ContainerWindow, AButtonOfAScreenThatDoesNotExistIsDisabledAndSaysSo) {
   EXPECT_TRUE(world.button("Container", "Command4").isEnabled());
 }
 
-TEST(ContainerWindow, APanelThatIsFoldedHasTheCaptionsAsTooltips) {
+TEST(ContainerScreen, APanelThatIsFoldedHasTheCaptionsAsTooltips) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   EXPECT_TRUE(window.railWide());
   QTest::keyClick(&window, Qt::Key_F4);
   settle();
@@ -211,9 +211,9 @@ TEST(ContainerWindow, APanelThatIsFoldedHasTheCaptionsAsTooltips) {
   EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("rail"))->width(), 304);
 }
 
-TEST(ContainerWindow, TheFirstScreenFoldsThePanelAndTheLastUnfoldsIt) {
+TEST(ContainerScreen, TheFirstScreenFoldsThePanelAndTheLastUnfoldsIt) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   world.button("Container", "Command5").click();
   settle();
   EXPECT_FALSE(window.railWide());
@@ -222,7 +222,7 @@ TEST(ContainerWindow, TheFirstScreenFoldsThePanelAndTheLastUnfoldsIt) {
   EXPECT_TRUE(window.railWide());
 }
 
-TEST(ContainerWindow, ScreensFillTheAreaOrStandAboveIt) {
+TEST(ContainerScreen, ScreensFillTheAreaOrStandAboveIt) {
   WindowWorld world;
   world.proceed();
   world.button("Container", "Command4").click();
@@ -243,7 +243,7 @@ TEST(ContainerWindow, ScreensFillTheAreaOrStandAboveIt) {
   EXPECT_GT(siblings.indexOf(list.parentWidget()), siblings.indexOf(bench.parentWidget()));
 }
 
-TEST(ContainerWindow, TheButtonsOfThePanelMarkTheScreenInFrontAndTheOpenOnes) {
+TEST(ContainerScreen, TheButtonsOfThePanelMarkTheScreenInFrontAndTheOpenOnes) {
   WindowWorld world;
   world.proceed();
   world.button("Container", "Command4").click();
@@ -255,7 +255,7 @@ TEST(ContainerWindow, TheButtonsOfThePanelMarkTheScreenInFrontAndTheOpenOnes) {
   EXPECT_TRUE(world.button("Container", "Command1").isChecked());
 }
 
-TEST(ContainerWindow, EscClosesASmallWindowAndNeverTheWorkbench) {
+TEST(ContainerScreen, EscClosesASmallWindowAndNeverTheWorkbench) {
   WindowWorld world;
   world.proceed();
   world.button("Container", "Command4").click();
@@ -271,7 +271,7 @@ TEST(ContainerWindow, EscClosesASmallWindowAndNeverTheWorkbench) {
   EXPECT_EQ(world.shell.openScreens(), (std::vector<std::string>{"Container", "Sommativi1"}));
 }
 
-TEST(ContainerWindow, AScreenClosedByItsOwnButtonLivesUntilTheButtonIsDone) {
+TEST(ContainerScreen, AScreenClosedByItsOwnButtonLivesUntilTheButtonIsDone) {
   WindowWorld world;
   world.proceed();
   world.shell.show("Estrazioni_minielenco");
@@ -285,9 +285,9 @@ TEST(ContainerWindow, AScreenClosedByItsOwnButtonLivesUntilTheButtonIsDone) {
   EXPECT_TRUE(world.shell.widget("Estrazioni_minielenco")->isVisible());
 }
 
-TEST(ContainerWindow, CtrlTabGoesRoundTheOpenScreens) {
+TEST(ContainerScreen, CtrlTabGoesRoundTheOpenScreens) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   world.button("Container", "Command4").click();
   world.button("Container", "Command1").click();
   settle();
@@ -297,9 +297,9 @@ TEST(ContainerWindow, CtrlTabGoesRoundTheOpenScreens) {
   EXPECT_EQ(world.shell.openScreens().back(), "archivio");
 }
 
-TEST(ContainerWindow, F1ShowsThePageOfTheScreenInFront) {
+TEST(ContainerScreen, F1ShowsThePageOfTheScreenInFront) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   QTest::keyClick(&window, Qt::Key_F1);
   EXPECT_EQ(world.shell.helpViewer()->page().toString(), QStringLiteral("qrc:/help/finestra.html#finestra"));
   world.button("Container", "Command5").click();
@@ -311,18 +311,18 @@ TEST(ContainerWindow, F1ShowsThePageOfTheScreenInFront) {
   EXPECT_EQ(world.shell.helpViewer()->page().toString(), QStringLiteral("qrc:/help/finestra.html#finestra"));
 }
 
-TEST(ContainerWindow, FineAndTheCrossEndTheProgram) {
+TEST(ContainerScreen, FineAndTheCrossEndTheProgram) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   world.button("Container", "Command45").click();
   EXPECT_EQ(world.shell.quits, 1);
   window.close();
   EXPECT_EQ(world.shell.quits, 2);
 }
 
-TEST(ContainerWindow, ProgressAndStatusStandInTheStatusBar) {
+TEST(ContainerScreen, ProgressAndStatusStandInTheStatusBar) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   auto* const bar = window.findChild<QProgressBar*>(QStringLiteral("Pb1"));
   const int place = bar->x();
   world.shell.progress(50, 100);
@@ -336,9 +336,9 @@ TEST(ContainerWindow, ProgressAndStatusStandInTheStatusBar) {
   }));
 }
 
-TEST(ContainerWindow, ALowWindowIsCompactAndCtrlPlusEnlargesTheFont) {
+TEST(ContainerScreen, ALowWindowIsCompactAndCtrlPlusEnlargesTheFont) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   EXPECT_EQ(Theme::current().density(), Theme::Density::Compact);
   window.resize(1600, 950);
   settle();
@@ -352,9 +352,9 @@ TEST(ContainerWindow, ALowWindowIsCompactAndCtrlPlusEnlargesTheFont) {
   EXPECT_EQ(Theme::current().basePoints(), 10.5);
 }
 
-TEST(ContainerWindow, AScreenThatUsesCtrl0HasItWhileItIsInFront) {
+TEST(ContainerScreen, AScreenThatUsesCtrl0HasItWhileItIsInFront) {
   WindowWorld world;
-  ContainerWindow& window = world.proceed();
+  ContainerScreen& window = world.proceed();
   Theme::edit().setBasePoints(12);
   world.shell.show("archivio");
   QWidget& bench = *world.shell.widget(world.shell.show("Sommativi1").name());
@@ -372,13 +372,13 @@ TEST(ContainerWindow, AScreenThatUsesCtrl0HasItWhileItIsInFront) {
   EXPECT_EQ(Theme::current().chosenPoints(), 0);
 }
 
-TEST(ContainerWindow, RemembersItsPlaceAndItsPanel) {
+TEST(ContainerScreen, RemembersItsPlaceAndItsPanel) {
   const TempFolder folder;
   const std::filesystem::path file = folder / "TRV5.ini";
   {
     WindowWorld world;
     world.shell.useSettings(file);
-    ContainerWindow& window = world.proceed();
+    ContainerScreen& window = world.proceed();
     window.showNormal();
     window.setGeometry(30, 40, 1111, 700);
     QTest::keyClick(&window, Qt::Key_F4);
@@ -392,7 +392,7 @@ TEST(ContainerWindow, RemembersItsPlaceAndItsPanel) {
   world.start();
   world.button("INIZIO", "Command2").click();
   settle();
-  auto& window = *qobject_cast<ContainerWindow*>(world.shell.widget("Container"));
+  auto& window = *qobject_cast<ContainerScreen*>(world.shell.widget("Container"));
   EXPECT_FALSE(window.railWide());
   EXPECT_EQ(window.height(), 700);
   Theme::edit().setBasePoints(0);

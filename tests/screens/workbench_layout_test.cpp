@@ -10,7 +10,7 @@
 #include <QSplitter>
 #include <set>
 
-#include "screens/click_label.h"
+#include "screens/kit/click_label.h"
 #include "support/temp_folder.h"
 #include "workbench_screen.h"
 
@@ -35,7 +35,7 @@ bool scrolls(const QWidget& widget) {
 }
 
 // Every visible caption, list and button has the room that it asks for, inside everything that it stands in.
-void expectNothingCut(const Sommativi1& screen) {
+void expectNothingCut(const Sommativi1Screen& screen) {
   for (const auto* const widget : screen.findChildren<QWidget*>()) {
     if (!widget->isVisibleTo(&screen) || !isText(*widget)) continue;
     if (widget->parentWidget()->inherits("QTabBar") || widget->inherits("QLineEditIconButton")) continue;

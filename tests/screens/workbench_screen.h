@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "form_world.h"
-#include "screens/Sommativi1.h"
-#include "screens/theme.h"
+#include "screens/kit/theme.h"
+#include "screens/workbench/Sommativi1.h"
 #include "support/workbench_world.h"
 
 namespace trv5 {
@@ -19,7 +19,7 @@ struct WorkbenchScreen {
           std::mt19937 rng(11);
           return randomArchive(rng, 400);
         }()),
-        screen(std::make_unique<Sommativi1>(world.w)) {
+        screen(std::make_unique<Sommativi1Screen>(world.w)) {
     resize(window);
     screen->show();
     screen->activateWindow();
@@ -52,7 +52,7 @@ struct WorkbenchScreen {
   }
 
   WorkbenchWorld world;
-  std::unique_ptr<Sommativi1> screen;
+  std::unique_ptr<Sommativi1Screen> screen;
 };
 
 }  // namespace trv5

@@ -1,0 +1,103 @@
+// What the user does with a whole grid: copy, export, print, fit.
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
+#include <QMimeData>
+#include <QStandardPaths>
+#include <algorithm>
+
+#include "core/file_writer.h"
+#include "core/grid_text.h"
+#include "screens/kit/grid_export.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/icons.h"
+#include "screens/kit/theme.h"
+
+namespace trv5 {
+
+std::vector<std::pair<int, int>> GridView::chosenCells() const {
+  std::vector<std::pair<int, int>> cells;
+  for (const QModelIndex& index : selectedIndexes()) cells.emplace_back(m_model->gridRow(index.row()), index.column());
+  if (cells.empty() && currentIndex().isValid())
+    cells.emplace_back(m_model->gridRow(currentIndex().row()), currentIndex().column());
+  return cells;
+}
+
+void GridView::copySelection() {
+  sync();
+  const std::vector<std::pair<int, int>> cells = chosenCells();
+  if (cells.empty()) return;
+  auto* const copied = new QMimeData;
+  copied->setText(qs(cellsText(m_grid, cells)));
+  copied->setHtml(qs(cellsHtml(m_grid, cells)));
+  QApplication::clipboard()->setMimeData(copied);
+}
+
+void GridView::copyTable() {
+  m_grid.form().perform([this] { m_grid.form().shell().setClipboard(tableText(m_grid)); });
+}
+
+void GridView::exportCsv() {
+  m_grid.form().perform([this] {
+    const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta CSV", "*.csv", "csv"));
+    if (file) writeFile(*file, csvText(m_grid));
+  });
+}
+
+void GridView::exportXlsx() {
+  m_grid.form().perform([this] {
+    const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta XLSX", "*.xlsx", "xlsx"));
+    if (file) writeXlsx(*file, m_grid);
+  });
+}
+
+void GridView::printTable() {
+  m_grid.form().perform([this] { m_grid.form().shell().print(m_grid, {.title = m_grid.form().title()}); });
+}
+
+FileBox GridView::exportBox(const char* title, const char* filter, const char* extension) const {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return {.title = title, .folder = folder.toStdString(), .filter = filter, .defaultExtension = extension};
+}
+
+void GridView::fitColumns() {
+  sync();
+  const QFontMetrics cells(m_cellFont), bold(m_strongFont), headings(m_headingFont);
+  const std::vector<int> rows = visibleRows(m_grid);
+  for (const int column : visibleColumns(m_grid)) {
+    if (isColumnHidden(column)) continue;
+    int width = cells.horizontalAdvance(u'8');
+    std::size_t longest = 0;
+    for (const int row : rows) {
+      const Cell& cell = m_grid.at(row, column);
+      // A text that is clearly shorter than the longest so far can't be wider.
+      if (cell.text.size() * 2 < longest) continue;
+      longest = std::max(longest, cell.text.size());
+      const QFontMetrics& metrics = row < m_grid.headingRows() ? headings : cell.bold ? bold : cells;
+      width = std::max(width, metrics.horizontalAdvance(qs(cell.text).trimmed()));
+    }
+    m_userWidths[column] = width + Theme::current().unit() + 4;
+  }
+  layoutColumns();
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu(this);
+  const auto add = [&](const char* name, const QString& text, const QKeySequence& key, void (GridView::*run)()) {
+    QAction* const action = menu.addAction(icon(QLatin1String(name)), text, this, run);
+    action->setShortcut(key);
+  };
+  add("copy", QStringLiteral("Copia"), QKeySequence::Copy, &GridView::copySelection);
+  add("copy", QStringLiteral("Copia tabella"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &GridView::copyTable);
+  menu.addSeparator();
+  add("download", QStringLiteral("Esporta CSV.."), {}, &GridView::exportCsv);
+  add("download", QStringLiteral("Esporta XLSX.."), {}, &GridView::exportXlsx);
+  add("print", QStringLiteral("Stampa.."), QKeySequence::Print, &GridView::printTable);
+  menu.addSeparator();
+  add("columns", QStringLiteral("Adatta colonne"), {}, &GridView::fitColumns);
+  menu.exec(event->globalPos());
+}
+
+}  // namespace trv5

@@ -1,0 +1,264 @@
+#include "screens/kit/theme.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontMetrics>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QWidget>
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+#include <utility>
+
+static void initScreensResources() {
+  Q_INIT_RESOURCE(screens);
+}
+
+namespace trv5 {
+namespace {
+
+Theme* g_theme = nullptr;
+
+// Layouts that set no spacing of their own take the unit, so that they follow a change of density or font.
+class UnitStyle : public QProxyStyle {
+ public:
+  UnitStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    // Qt's own dialogs are laid out as Qt means them.
+    const bool own = widget == nullptr || !widget->window()->inherits("QDialog");
+    switch (metric) {
+      case PM_LayoutHorizontalSpacing:
+      case PM_LayoutVerticalSpacing:
+        if (own) return Theme::current().unit();
+        break;
+      case PM_LayoutLeftMargin:
+      case PM_LayoutTopMargin:
+      case PM_LayoutRightMargin:
+      case PM_LayoutBottomMargin:
+        // Padding belongs to panels and windows; pages and rows inside them begin at the same edge.
+        if (own && widget != nullptr) return padding(metric, *widget);
+        break;
+      case PM_ButtonIconSize:
+      case PM_SmallIconSize:
+        return 18;
+      case PM_SplitterWidth:
+        return Theme::current().unit();
+      default:
+        break;
+    }
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  // The outline of check boxes and option buttons, which Fusion takes from the ground, is the edge of all controls.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+      QStyleOptionButton edged;
+      if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) edged = *button;
+      edged.QStyleOption::operator=(*option);
+      edged.palette.setColor(QPalette::Window, option->palette.color(QPalette::Mid).lighter(140));
+      QProxyStyle::drawPrimitive(element, &edged, painter, widget);
+      return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    // Nothing moves by itself.
+    if (hint == SH_Widget_Animation_Duration) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  static int padding(PixelMetric metric, const QWidget& widget) {
+    const int padding = Theme::current().panelPadding();
+    // The page of a tab has its own: the line below the tabs runs over the whole panel, and parts them at the top.
+    if (widget.property("page").toBool()) return metric == PM_LayoutTopMargin ? 0 : padding;
+    const bool padded = widget.isWindow() || (widget.property("panel").toBool() && !widget.property("bare").toBool());
+    return padded ? padding : 0;
+  }
+};
+
+QPalette paletteOf(const ChromeColours& c) {
+  QPalette palette;
+  const auto set = [&](QPalette::ColorRole role, Rgb colour) { palette.setColor(role, toColor(colour)); };
+  set(QPalette::Window, c.window);
+  set(QPalette::WindowText, c.text);
+  set(QPalette::Base, c.field);
+  set(QPalette::AlternateBase, c.panel);
+  set(QPalette::Text, c.text);
+  set(QPalette::Button, c.button);
+  set(QPalette::ButtonText, c.text);
+  set(QPalette::BrightText, c.danger);
+  set(QPalette::ToolTipBase, c.field);
+  set(QPalette::ToolTipText, c.text);
+  set(QPalette::PlaceholderText, c.text2);
+  set(QPalette::Highlight, c.accent);
+  set(QPalette::HighlightedText, c.onAccent);
+  set(QPalette::Link, c.accent);
+  set(QPalette::LinkVisited, c.accent);
+  set(QPalette::Light, c.panel);
+  set(QPalette::Midlight, c.line);
+  set(QPalette::Mid, c.edge);
+  set(QPalette::Dark, c.edge);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, toColor(c.disabled));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, toColor(c.edge));
+  palette.setColor(QPalette::Disabled, QPalette::Base, toColor(c.panel));
+  return palette;
+}
+
+bool desktopIsDark() {
+  const QPalette palette = QGuiApplication::palette();
+  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+}  // namespace
+
+Theme::Theme(QApplication& app) : m_app(app), m_dark(desktopIsDark()) {
+  assert(g_theme == nullptr);
+  g_theme = this;
+  initScreensResources();
+  m_app.setStyle(new UnitStyle);
+  apply();
+}
+
+Theme::~Theme() {
+  g_theme = nullptr;
+}
+
+const Theme& Theme::current() {
+  return edit();
+}
+
+Theme& Theme::edit() {
+  assert(g_theme != nullptr);
+  return *g_theme;
+}
+
+void Theme::setDark(bool dark) {
+  if (m_dark == dark) return;
+  m_dark = dark;
+  apply();
+}
+
+void Theme::setWindowHeight(int height) {
+  const Density density = height < 900 ? Density::Compact : Density::Comfortable;
+  if (m_density == density) return;
+  m_density = density;
+  apply();
+}
+
+void Theme::setBasePoints(double points) {
+  if (points > 0) points = std::clamp(std::round(points * 2) / 2, 9.5, 16.0);
+  if (m_points == points) return;
+  m_points = points;
+  apply();
+}
+
+double Theme::basePoints() const {
+  if (m_points > 0) return m_points;
+  return m_density == Density::Compact ? 10.0 : 10.5;
+}
+
+double Theme::smallPoints() const {
+  return std::max(9.5, basePoints() - 1.0);
+}
+
+QFont Theme::base() const {
+  QFont font;
+  font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
+  font.setPointSizeF(basePoints());
+  return font;
+}
+
+QFont Theme::small(bool strong) const {
+  QFont font = base();
+  font.setPointSizeF(smallPoints());
+  if (strong) font.setWeight(QFont::DemiBold);
+  return font;
+}
+
+QFont Theme::title() const {
+  QFont font = base();
+  font.setWeight(QFont::DemiBold);
+  return font;
+}
+
+QFont Theme::large() const {
+  QFont font = title();
+  font.setPointSizeF(largePoints());
+  return font;
+}
+
+// Line of the base font without its leading: 19 px at 10.5 pt, 18 px at 10 pt.
+int Theme::lineHeight() const {
+  return QFontMetrics(base()).height();
+}
+
+int Theme::row() const {
+  return lineHeight() + (m_density == Density::Compact ? 2 : 5);
+}
+
+int Theme::heading() const {
+  return QFontMetrics(small(true)).height() + (m_density == Density::Compact ? 5 : 8);
+}
+
+int Theme::control() const {
+  return lineHeight() + (m_density == Density::Compact ? 8 : 11);
+}
+
+int Theme::unit() const {
+  return m_density == Density::Compact ? lineHeight() / 3 : lineHeight() * 8 / 19;
+}
+
+QString Theme::styleSheet() const {
+  QFile file(QStringLiteral(":/screens/theme.qss"));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QString sheet = QString::fromUtf8(file.readAll());
+  const ChromeColours& c = colours();
+  const std::pair<const char*, Rgb> named[] = {{"@window", c.window},     {"@panel", c.panel},
+                                               {"@field", c.field},       {"@button", c.button},
+                                               {"@void", c.voidArea},     {"@rail", c.rail},
+                                               {"@line", c.line},         {"@edge", c.edge},
+                                               {"@text2", c.text2},       {"@text", c.text},
+                                               {"@disabled", c.disabled}, {"@accent", c.accent},
+                                               {"@onAccent", c.onAccent}, {"@headingText", c.headingText},
+                                               {"@heading", c.heading},   {"@danger", c.danger}};
+  // The inside of a control: its height without the border of 1 px on both sides.
+  const std::pair<const char*, QString> sizes[] = {
+      {"@inner", QString::number(control() - 2)},
+      {"@tallFocus", QString::number(control() + 4)},
+      {"@tall", QString::number(control() + 6)},
+      {"@chip", m_dark ? QStringLiteral("#FFFFFF") : QStringLiteral("transparent")},
+      {"@focus", QString::number(control() - 4)},
+      {"@small", QString::number(smallPoints())},
+      {"@large", QString::number(largePoints())},
+      {"@tabPad", QString::number(unit() / 2 + 2)},
+      {"@unit", QString::number(unit())},
+      {"@theme", m_dark ? QStringLiteral("dark") : QStringLiteral("light")}};
+  for (const auto& [name, colour] : named)
+    sheet.replace(QLatin1String(name) + QLatin1Char(';'), toColor(colour).name() + QLatin1Char(';'));
+  for (const auto& [name, value] : sizes) sheet.replace(QLatin1String(name), value);
+  return sheet;
+}
+
+void Theme::apply() {
+  Q_EMIT aboutToChange();
+  m_app.setPalette(paletteOf(colours()));
+  m_app.setFont(base());
+  m_app.setStyleSheet(styleSheet());
+  Q_EMIT changed();
+}
+
+void withTheme(QObject& owner, const std::function<void()>& set) {
+  QObject::connect(&Theme::current(), &Theme::changed, &owner, set);
+  set();
+}
+
+}  // namespace trv5

@@ -1,0 +1,269 @@
+#include "screens/shell/qt_shell.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QTimer>
+#include <QUrl>
+#include <algorithm>
+
+#include "core/errors.h"
+#include "help/help_pages.h"
+#include "screens/kit/theme.h"
+#include "screens/shell/Container.h"
+#include "screens/shell/help_viewer.h"
+
+namespace trv5 {
+
+QtShell::Open::~Open() {
+  // Before the form, which it shows; with the frame that it stands in.
+  if (widget == nullptr) return;
+  QWidget* const frame = qobject_cast<QMdiSubWindow*>(widget->parentWidget());
+  delete (frame != nullptr ? frame : widget.data());
+}
+
+QtShell::QtShell(std::vector<ScreenEntry> screens) : m_screens(std::move(screens)) {}
+
+QtShell::~QtShell() {
+  closeAll();
+  m_closed.clear();
+}
+
+void QtShell::attach(Program& program) {
+  m_program = &program;
+  program.screenExists = [this](std::string_view screen) { return hasScreen(screen); };
+}
+
+void QtShell::useSettings(const std::filesystem::path& file) {
+  m_settings = std::make_unique<QSettings>(qs(file.string()), QSettings::IniFormat);
+  Theme::edit().setBasePoints(m_settings->value(QStringLiteral("carattere"), 0).toDouble());
+}
+
+const ScreenEntry* QtShell::entryOf(std::string_view name) const {
+  const auto it =
+      std::find_if(m_screens.begin(), m_screens.end(), [&](const ScreenEntry& entry) { return entry.name == name; });
+  return it == m_screens.end() ? nullptr : &*it;
+}
+
+QtShell::Open* QtShell::find(std::string_view screen) const {
+  for (const std::unique_ptr<Open>& opened : m_open)
+    if (opened->entry->name == screen) return opened.get();
+  return nullptr;
+}
+
+std::vector<std::string> QtShell::openScreens() const {
+  std::vector<std::string> names;
+  for (const std::unique_ptr<Open>& opened : m_open) names.push_back(opened->entry->name);
+  return names;
+}
+
+Form* QtShell::form(std::string_view screen) const {
+  const Open* const opened = find(screen);
+  return opened == nullptr ? nullptr : opened->form.get();
+}
+
+QWidget* QtShell::widget(std::string_view screen) const {
+  const Open* const opened = find(screen);
+  return opened == nullptr ? nullptr : opened->widget.data();
+}
+
+QWidget* QtShell::widget(std::string_view screen, std::string_view control) const {
+  const QWidget* const top = widget(screen);
+  if (top == nullptr) return nullptr;
+  const QString name = QString::fromUtf8(control.data(), static_cast<qsizetype>(control.size()));
+  for (QWidget* const found : top->findChildren<QWidget*>(name)) {
+    const QWidget* owner = found->parentWidget();
+    while (owner != top && qobject_cast<const Screen*>(owner) == nullptr) owner = owner->parentWidget();
+    if (owner == top) return found;
+  }
+  return nullptr;
+}
+
+ContainerScreen* QtShell::shellWindow() const {
+  for (const std::unique_ptr<Open>& opened : m_open)
+    if (auto* const window = qobject_cast<ContainerScreen*>(opened->widget.data())) return window;
+  return nullptr;
+}
+
+QWidget* QtShell::front() const {
+  if (QWidget* const active = QApplication::activeWindow()) return active;
+  if (ContainerScreen* const window = shellWindow()) return window;
+  return m_open.empty() ? nullptr : m_open.back()->widget.data();
+}
+
+Form& QtShell::show(std::string_view screen) {
+  const ScreenEntry* const entry = entryOf(screen);
+  if (entry == nullptr || m_program == nullptr)
+    throw UserError("La schermata \"" + std::string(screen) + "\" non esiste in questa versione del programma.");
+  Open* opened = find(screen);
+  if (opened == nullptr) opened = &open(*entry);
+  toFront(screen);
+  return *opened->form;
+}
+
+QtShell::Open& QtShell::open(const ScreenEntry& entry) {
+  auto made = std::make_unique<Open>();
+  made->entry = &entry;
+  made->form = entry.makeForm(*m_program);
+  made->widget = entry.makeWidget(*made->form);
+  Open& opened = *m_open.emplace_back(std::move(made));
+  try {
+    entry.load(*opened.form);
+  } catch (...) {
+    close(entry.name);
+    throw;
+  }
+  place(opened);
+  return opened;
+}
+
+void QtShell::place(Open& opened) {
+  QWidget& widget = *opened.widget;
+  if (opened.entry->place == Place::Window) {
+    widget.resize(opened.entry->size.boundedTo(widget.screen()->availableSize()));
+    bool maximised = false;
+    if (auto* const window = qobject_cast<ContainerScreen*>(&widget)) {
+      maximised = m_settings != nullptr && !window->restore(*m_settings);
+      connect(window, &ContainerScreen::helpWanted, this, &QtShell::helpOfFront);
+      connect(window, &ContainerScreen::nextScreenWanted, this, &QtShell::showNext);
+      connect(window, &ContainerScreen::closedByUser, this, [this](const QString& name) { close(name.toStdString()); });
+      connect(window, &ContainerScreen::activatedByUser, this, [this](const QString& name) {
+        if (!m_opening && find(name.toStdString()) != nullptr) toFront(name.toStdString());
+      });
+    }
+    maximised ? widget.showMaximized() : widget.show();
+    return;
+  }
+  if (ContainerScreen* const window = shellWindow()) {
+    m_opening = true;
+    window->place(widget, *opened.entry);
+    m_opening = false;
+  } else {
+    widget.show();
+  }
+  if (auto* const screen = qobject_cast<Screen*>(&widget); screen != nullptr && m_settings)
+    screen->restore(*m_settings);
+}
+
+void QtShell::toFront(std::string_view screen) {
+  const auto it = std::find_if(m_open.begin(), m_open.end(),
+                               [&](const std::unique_ptr<Open>& opened) { return opened->entry->name == screen; });
+  if (it == m_open.end()) return;
+  std::rotate(it, it + 1, m_open.end());
+  tellShellWindow();
+  QWidget* const widget = m_open.back()->widget;
+  if (widget == nullptr) return;
+  m_opening = true;
+  if (ContainerScreen* const window = shellWindow(); window != nullptr && window != widget)
+    window->bringToFront(*widget);
+  else
+    widget->raise();
+  m_opening = false;
+}
+
+void QtShell::tellShellWindow() {
+  if (ContainerScreen* const window = shellWindow()) window->setOpenScreens(openScreens());
+}
+
+void QtShell::close(std::string_view screen) {
+  const auto it = std::find_if(m_open.begin(), m_open.end(),
+                               [&](const std::unique_ptr<Open>& opened) { return opened->entry->name == screen; });
+  if (it == m_open.end()) return;
+  // Out of the list first: taking a window away brings another one to the front.
+  Open& closed = *m_closed.emplace_back(std::move(*it));
+  m_open.erase(it);
+  if (QWidget* const widget = closed.widget) {
+    if (m_settings) {
+      if (auto* const own = qobject_cast<Screen*>(widget)) own->store(*m_settings);
+      if (auto* const window = qobject_cast<ContainerScreen*>(widget)) window->store(*m_settings);
+      m_settings->setValue(QStringLiteral("carattere"), Theme::current().chosenPoints());
+    }
+    if (ContainerScreen* const window = shellWindow()) window->takeAway(*widget);
+    widget->hide();
+  }
+  tellShellWindow();
+  if (m_purgeAsked) return;
+  m_purgeAsked = true;
+  QTimer::singleShot(0, this, &QtShell::purge);
+}
+
+void QtShell::purge() {
+  if (Form::operationRunning()) {
+    QTimer::singleShot(50, this, &QtShell::purge);
+    return;
+  }
+  m_purgeAsked = false;
+  m_closed.clear();
+}
+
+void QtShell::closeAll() {
+  // The screens inside the shell's window go before the window.
+  const auto inside = [](const std::unique_ptr<Open>& opened) { return opened->entry->place != Place::Window; };
+  while (!m_open.empty()) {
+    const auto it = std::find_if(m_open.begin(), m_open.end(), inside);
+    close(std::string((it == m_open.end() ? m_open.back() : *it)->entry->name));
+  }
+  m_help.reset();
+}
+
+void QtShell::showNext() {
+  for (const std::unique_ptr<Open>& opened : m_open) {
+    if (opened->entry->place == Place::Window) continue;
+    toFront(opened->entry->name);
+    return;
+  }
+}
+
+HelpViewer& QtShell::helpWindow() {
+  if (m_help == nullptr) m_help = std::make_unique<HelpViewer>();
+  return *m_help;
+}
+
+void QtShell::help(int context) {
+  helpWindow().open(helpPage(context));
+}
+
+void QtShell::helpOfFront() {
+  if (m_open.empty()) return;
+  const Form& front = *m_open.back()->form;
+  helpWindow().open(front.helpContext() > 0 ? helpPage(front.helpContext()) : helpPageOfScreen(qs(front.name())));
+}
+
+std::string QtShell::clipboard() {
+  return QGuiApplication::clipboard()->text().toStdString();
+}
+
+void QtShell::setClipboard(const std::string& text) {
+  QGuiApplication::clipboard()->setText(qs(text));
+}
+
+void QtShell::openAddress(const std::string& url) {
+  QDesktopServices::openUrl(QUrl(qs(url), QUrl::StrictMode));
+}
+
+void QtShell::progress(int value, int maximum) {
+  if (m_program != nullptr && m_program->container != nullptr) m_program->container->Pb1.set(value, maximum);
+}
+
+void QtShell::status(const std::string& text) {
+  if (ContainerScreen* const window = shellWindow()) window->showStatus(qs(text));
+}
+
+DateTime QtShell::now() {
+  const QDateTime moment = QDateTime::currentDateTime();
+  const QDate date = moment.date();
+  const QTime time = moment.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+void QtShell::quit() {
+  QTimer::singleShot(0, this, [this] {
+    closeAll();
+    QCoreApplication::quit();
+  });
+}
+
+}  // namespace trv5

@@ -1,0 +1,61 @@
+#include "core/container.h"
+#include "core/inizio.h"
+#include "engine/open_workbench.h"
+#include "screens/ElencoRiscontri.h"
+#include "screens/Estrazioni_minielenco.h"
+#include "screens/EvoluzioneGrafica.h"
+#include "screens/INIZIO.h"
+#include "screens/Speciale.h"
+#include "screens/shell/registry.h"
+#include "screens/shell/Container.h"
+#include "screens/workbench/Sommativi1.h"
+
+namespace trv5 {
+namespace {
+
+// `FormType` made of the program, shown by `WidgetType`.
+template <class FormType, class WidgetType>
+ScreenEntry entry(std::string name, Place place, QSize size = {}) {
+  return {.name = std::move(name),
+          .place = place,
+          .size = size,
+          .makeForm = [](Program& program) { return std::make_unique<FormType>(program); },
+          .makeWidget = [](Form& form) { return new WidgetType(static_cast<FormType&>(form)); }};
+}
+
+ScreenEntry atRight(ScreenEntry made) {
+  made.atRight = true;
+  return made;
+}
+
+template <class FormType>
+ScreenEntry loaded(ScreenEntry made) {
+  made.load = [](Form& form) { static_cast<FormType&>(form).load(); };
+  return made;
+}
+
+ScreenEntry workbench() {
+  ScreenEntry made = {
+      .name = "Sommativi1",
+      .makeForm = [](Program& program) { return std::make_unique<Workbench>(program.archive, program.shell); },
+      .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
+      .load = [](Form& form) { openWorkbench(static_cast<Workbench&>(form)); }};
+  return made;
+}
+
+}  // namespace
+
+std::vector<ScreenEntry> allScreens() {
+  return {
+      loaded<Inizio>(entry<Inizio, InizioScreen>("INIZIO", Place::Window, {860, 400})),
+      loaded<Container>(entry<Container, ContainerScreen>("Container", Place::Window, {1920, 1080})),
+      workbench(),
+      atRight(loaded<MiniList>(
+          entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {660, 490}))),
+      entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
+      entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed, {1000, 520}),
+      entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
+  };
+}
+
+}  // namespace trv5

@@ -1,0 +1,147 @@
+#include "screens/workbench/search.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QResizeEvent>
+#include <QStackedWidget>
+
+#include "screens/kit/icons.h"
+#include "screens/kit/kit.h"
+#include "screens/kit/theme.h"
+#include "screens/workbench/formula_samples.h"
+
+namespace trv5 {
+namespace {
+
+// The pages of searches, by the tab of the forecasts that they belong to.
+constexpr std::pair<int, const char*> kSections[] = {{0, "Ambate"}, {1, "Ambi"}, {2, "Terni"}, {4, "Lunghetta"}};
+
+std::vector<QString> candidateSamples() {
+  std::vector<QString> samples = formulaSamples();
+  samples.push_back(QStringLiteral("MI-MI-MI"));
+  return samples;
+}
+
+}  // namespace
+
+WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
+    : Panel({}, parent),
+      m_w(w),
+      m_title(Kit::text(QStringLiteral("Ricerca: Ambate"), Type::Title)),
+      m_pages(new QStackedWidget),
+      m_candidates(nullptr) {
+  Kit kit(w);
+  const auto captioned = [](const char* caption, QWidget* widget) {
+    return Kit::captioned(QString::fromUtf8(caption), widget);
+  };
+  body()->addLayout(flow({m_title}, {kit.lines("List1", 2, QStringLiteral("88:88:88")),
+                                     kit.button("Command3", {.kind = ButtonKind::Quiet}),
+                                     kit.button("Cmd_Colora_fgf", {.kind = ButtonKind::Quiet}),
+                                     captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888")))}));
+  body()->addLayout(flow({captioned("&Alteraz", kit.combo("Combo1R_1N", QStringLiteral("D x U"))),
+                          captioned("Opera&zione", kit.combo("Combo1R_2N", QStringLiteral("N1 X N2"))),
+                          captioned("Fi&x", kit.combo("ComboFix", QStringLiteral("88"))), kit.check("ChFix1R")},
+                         {kit.check("Ch_Scoperti", 'C')}));
+
+  page({kit.joined({"Command20", "Command11", "Command13", "Command15"}),
+        kit.joined({"Command23", "Command17", "Command16", "Command7"}), kit.joined({"Command18"}),
+        kit.joined({"Command10", "Command1", "Command2"}),
+        kit.joined({"Command77", "Command101", "Command100", "Command99"})},
+       nullptr);
+  for (const auto& names : {std::array{"Command28", "Command39", "Command37", "Command31", "Command105", "Command64"},
+                            std::array{"Command46", "Command43", "Command45", "Command40", "Command107", "Command73"},
+                            std::array{"Command56", "Command58", "Command57", "Command59", "Command108", "Command84"}})
+    page({kit.joined({names[0]}), kit.joined({names[1]}), kit.joined({names[2]}), kit.joined({names[3]}),
+          kit.joined({names[4]})},
+         kit.joined({names[5]}));
+  body()->addWidget(m_pages);
+
+  m_candidates = kit.grid("FgF", {.samples = candidateSamples(), .tight = true});
+  body()->addWidget(m_candidates, 1);
+
+  std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),
+                               Kit::text(QStringLiteral("Aggiunge previsione"), Type::Hint)};
+  for (const char* const name : {"Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6"})
+    adding.emplace_back(kit.button(name, {.strong = true}));
+  body()->addLayout(flow({holding(row(adding)), kit.check("ChVerifica", 'V')}, {kit.button("Command22")}));
+}
+
+QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
+  QWidget* const made =
+      holding(flow(groups, counts == nullptr ? std::vector<QWidget*>() : std::vector<QWidget*>{counts}));
+  for (auto* const button : made->findChildren<QAbstractButton*>()) button->installEventFilter(this);
+  m_pages->addWidget(made);
+  return made;
+}
+
+void WorkbenchSearch::followTab(int tab) {
+  int page = 0;
+  for (const auto& [given, caption] : kSections) {
+    if (given == tab) {
+      m_pages->setCurrentIndex(page);
+      m_title->setText(QStringLiteral("Ricerca: ") + QString::fromUtf8(caption));
+    }
+    ++page;
+  }
+}
+
+std::vector<QAbstractButton*> WorkbenchSearch::buttons() const {
+  std::vector<QAbstractButton*> enabled;
+  for (auto* const button : m_pages->currentWidget()->findChildren<QAbstractButton*>())
+    if (button->isEnabled()) enabled.push_back(button);
+  return enabled;
+}
+
+void WorkbenchSearch::focusSearches() {
+  if (const auto all = buttons(); !all.empty()) all.front()->setFocus(Qt::ShortcutFocusReason);
+}
+
+void WorkbenchSearch::walk(const QWidget* from, int step) {
+  const auto all = buttons();
+  const auto at = std::find(all.begin(), all.end(), from);
+  if (at == all.end()) return;
+  const auto next = (at - all.begin()) + step;
+  if (next >= 0 && next < static_cast<std::ptrdiff_t>(all.size()))
+    all[static_cast<std::size_t>(next)]->setFocus(Qt::OtherFocusReason);
+}
+
+void WorkbenchSearch::chooseFirst() {
+  if (!m_w.FgF.hasData()) return;
+  m_candidates->clickCell(m_w.FgF.headingRows(), m_w.FgF.currentColumn());
+  m_candidates->setFocus(Qt::OtherFocusReason);
+}
+
+QSize WorkbenchSearch::minimumSizeHint() const {
+  const QSize least = Panel::minimumSizeHint();
+  return {least.width(), std::max(least.height(), layout()->minimumHeightForWidth(std::max(width(), least.width())))};
+}
+
+void WorkbenchSearch::resizeEvent(QResizeEvent* event) {
+  Panel::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width()) updateGeometry();
+}
+
+bool WorkbenchSearch::eventFilter(QObject* watched, QEvent* event) {
+  auto* const button = qobject_cast<QAbstractButton*>(watched);
+  if (event->type() != QEvent::KeyPress || button == nullptr) return Panel::eventFilter(watched, event);
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      walk(button, -1);
+      return true;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      walk(button, 1);
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      button->click();
+      chooseFirst();
+      return true;
+    default:
+      return Panel::eventFilter(watched, event);
+  }
+}
+
+}  // namespace trv5

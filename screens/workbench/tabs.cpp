@@ -1,0 +1,142 @@
+#include "screens/workbench/tabs.h"
+
+#include "screens/kit/kit.h"
+#include "screens/kit/scroll_column.h"
+#include "screens/kit/theme.h"
+#include "screens/workbench/sorte_tab.h"
+
+namespace trv5 {
+namespace {
+
+// A page holds its rows and the grid that takes the rest.
+QWidget* pageOf(const std::vector<Piece>& pieces) {
+  return holding(column(pieces));
+}
+
+std::vector<QString> repeated(std::vector<QString> first, int count, const QString& sample,
+                              const std::vector<QString>& last = {}) {
+  first.insert(first.end(), static_cast<std::size_t>(count), sample);
+  first.insert(first.end(), last.begin(), last.end());
+  return first;
+}
+
+QPushButton* quiet(Kit& kit, const char* name, const char* icon) {
+  return kit.button(name, {.kind = ButtonKind::Quiet, .icon = icon});
+}
+
+// Widgets and their caption that stay together where a row wraps.
+QWidget* group(const std::vector<Piece>& pieces) {
+  return holding(row(pieces));
+}
+
+// A column that keeps the width of so many figures.
+QWidget* narrow(QWidget* column, int figures) {
+  withTheme(*column, [column, figures] {
+    column->setFixedWidth(figures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8'));
+  });
+  return column;
+}
+
+const QString kNumber = QStringLiteral("88");
+
+}  // namespace
+
+QWidget* summaryTab(Workbench& w) {
+  Kit kit(w);
+  // The grid has the whole tab for itself: wider columns share the room better than one wide last column.
+  std::vector<QString> samples = hitSamples();
+  for (QString& sample : samples)
+    if (!sample.isEmpty()) sample.prepend(sample.size() < 5 ? QStringLiteral("888") : QString());
+  return pageOf(
+      {row({kit.check("ChA"), kit.check("ChB"), kit.check("ChC"), Piece::space(), separator(Qt::Vertical),
+            Piece::space(), kit.check("Ch1esito"), Piece::gap(),
+            kit.button("Command86", {.kind = ButtonKind::Primary, .icon = "play"}), quiet(kit, "Command96", "print"),
+            quiet(kit, "Command98", "copy"), quiet(kit, "Command97", "broom")}),
+       {kit.grid("FgZZ", {.samples = samples}), 1}});
+}
+
+QWidget* liveForecastsTab(Workbench& w) {
+  Kit kit(w);
+  std::vector<Piece> filters = {Kit::text(QStringLiteral("Filtra"), Type::Hint),
+                                kit.joined({"Command50", "Command55", "Command60", "Command61"}, false)};
+  for (const char* const name : {"Ch_FF_1", "Ch_FF_2", "Ch_FF_3", "Ch_FF_0"}) filters.emplace_back(kit.check(name));
+  filters.emplace_back(kit.button("Command62", {.icon = "filter"}));
+  return pageOf(
+      {flow({kit.button("Command35", {.kind = ButtonKind::Primary}), kit.button("Command102"), group(filters),
+             quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
+       {kit.grid("FgIC", {.samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), kNumber}, 10, kNumber,
+                                              {QStringLiteral("88/88/8888"), QStringLiteral("MI MI MI MI MI")})}),
+        1}});
+}
+
+QWidget* numbersInPlayTab(Workbench& w) {
+  Kit kit(w);
+  const QString numbers = QStringLiteral("88-88-88");
+  GridView* const cases = kit.grid(
+      "Fg15", {.samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
+  GridView* const forecasts =
+      kit.grid("FgGioco", {.samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("888"))});
+  return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}),
+                      forecasts);
+}
+
+QWidget* groupingTab(Workbench& w, PagePair*& sheets) {
+  Kit kit(w);
+  std::vector<QString> list = repeated({{},
+                                        QStringLiteral("888"),
+                                        {},
+                                        QStringLiteral("8888"),
+                                        QStringLiteral("88/88/8888"),
+                                        QStringLiteral("3L"),
+                                        kNumber},
+                                       10, kNumber);
+  list = repeated(list, kWheels, QStringLiteral("M"));
+  GridView* const found = kit.grid("FgRagg", {.samples = list, .tight = true});
+  QWidget* const first =
+      pageOf({{found, 1}, flow({quiet(kit, "Command109", "print"), quiet(kit, "Command110", "copy")})});
+  GridView* const counts = kit.grid("FgConv", {.samples = repeated({kNumber}, kWheels, kNumber)});
+  QWidget* const second =
+      pageOf({row({kit.joined({"Command114", "Command115", "Command116"}, false), Piece::gap()}), {counts, 1}});
+  first->setFocusProxy(found);
+  second->setFocusProxy(counts);
+  sheets = new PagePair(w.SSTab4, {first, second}, false);
+  return pageOf({row({kit.button("Command106", {.kind = ButtonKind::Primary, .icon = "play"}),
+                      Kit::text(QStringLiteral("Le configurazioni di tipo Ciclo, senza durata fissa, restano escluse"),
+                                Type::Small),
+                      Piece::gap(), kit.label("Label7", Type::Title)}),
+                 {sheets, 1}});
+}
+
+QWidget* informationTab(Workbench& w) {
+  Kit kit(w);
+  std::vector<Piece> spans;
+  for (const char* const name : {"OptionRit_0", "OptionRit_1", "OptionRit_2"}) spans.emplace_back(kit.option(name));
+  spans.emplace_back(kit.button("Command88"));
+  QWidget* const commands =
+      pageOf({row({kit.button("Command9", {.kind = ButtonKind::Primary}), Piece::gap()}), flow({group(spans)}),
+              flow({kit.button("Command76"), kit.check("Ch_coperture")}),
+              flow({Kit::captioned(QStringLiteral("Delta"), kit.combo("ComboDelta", QStringLiteral("8"))),
+                    kit.button("Command111"), kit.button("Command112"), kit.button("Command113")}),
+              flow({kit.button("Command104", {.icon = "filter"}), quiet(kit, "Command89", "copy")}), Piece::gap()});
+  GridView* const values =
+      kit.grid("FgRit", {.samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")})});
+  return holding(row({narrow(new ScrollColumn(commands), 42), Piece::space(), {values, 1}}));
+}
+
+QWidget* configurationsTab(Workbench& w) {
+  Kit kit(w);
+  QLineEdit* const name = kit.edit("Txt_Denominazione", {}, true);
+  QWidget* const save = pageOf(
+      {Kit::text(QStringLiteral("&Denominazione (Max 100 caratteri)"), Type::Hint, name), name,
+       row({kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"}), Piece::gap()}), Piece::gap()});
+  GridView* const saved =
+      kit.grid("FgPir1", {.samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});
+  return holding(row({narrow(save, 47),
+                      Piece::space(),
+                      {column({row({kit.button("Cmd_Elenco"), Piece::gap(),
+                                    kit.button("Command54", {.kind = ButtonKind::Danger, .icon = "trash"})}),
+                               {saved, 1}}),
+                       1}}));
+}
+
+}  // namespace trv5
