@@ -29,10 +29,13 @@ endif()
 
 # trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder and those
 # inside it. Its include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/hit_rows.h" is
-# found by the users of engine only and an include in the wrong direction doesn't build.
+# found by the users of engine only and an include in the wrong direction doesn't build. EXCEPT names sources of another
+# target.
 function(trv5_layer name)
-  cmake_parse_arguments(L "" "" "USES;LINKS" ${ARGN})
+  cmake_parse_arguments(L "" "" "USES;LINKS;EXCEPT" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  list(TRANSFORM L_EXCEPT PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  list(REMOVE_ITEM sources ${L_EXCEPT})
   add_library(trv5_${name} STATIC ${sources})
   set_target_properties(trv5_${name} PROPERTIES LINKER_LANGUAGE CXX)
   set(root ${CMAKE_BINARY_DIR}/roots/${name})
@@ -44,16 +47,19 @@ function(trv5_layer name)
 endfunction()
 
 # trv5_tests(engine USES engine): the test program of one folder of tests/, each test of it known to CTest by its name.
-# With LABEL its tests can be chosen by that.
+# With LABEL its tests can be chosen by that; SUPPORT names other helpers than those that know the workbench.
 function(trv5_tests name)
-  cmake_parse_arguments(T "" "LABEL" "USES;LINKS" ${ARGN})
+  cmake_parse_arguments(T "" "LABEL;SUPPORT" "USES;LINKS" ${ARGN})
+  if(NOT T_SUPPORT)
+    set(T_SUPPORT test_support)
+  endif()
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h)
   if(NOT sources)
     return()
   endif()
   add_executable(test_${name} ${sources})
   list(TRANSFORM T_USES PREPEND trv5_)
-  target_link_libraries(test_${name} PRIVATE ${T_USES} ${T_LINKS} trv5_options trv5_test_support GTest::gtest_main
+  target_link_libraries(test_${name} PRIVATE ${T_USES} ${T_LINKS} trv5_options trv5_${T_SUPPORT} GTest::gtest_main
                         GTest::gmock)
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   # What is tested is optimised; optimising the tests themselves only costs time, under sanitizers three times as much.
