@@ -9,6 +9,7 @@
 #include "bench_tools.h"
 #include "engine/candidate_check.h"
 #include "engine/formula_tables.h"
+#include "support/full_candidate_check.h"
 #include "support/workbench_world.h"
 
 namespace trv5 {
@@ -36,7 +37,7 @@ void prepare(WorkbenchWorld& world, int colpi) {
 void takeOver(Workbench& w, int sorte, int count) {
   for (int row = 1; row <= count; ++row) {
     w.FgF.setCurrent(row);
-    AggiungePrevisione(w, sorte);
+    AggiungePrevisione(w, *tableOfCode(sorte));
   }
 }
 
@@ -108,7 +109,7 @@ void benchAll(const Archive& archive) {
 // CC of 100 candidates, whole and without what it leaves behind: the last candidate, and the restored table of the
 // lunghetta, are verified in full since the grids keep their traces. A run on one candidate is just that part.
 void benchCc(const Archive& archive) {
-  for (const int sorte : {2, 3, 6}) {
+  for (const Table table : {Table::Ambi, Table::Terni, Table::Lunghetta}) {
     WorkbenchWorld world(archive);
     Workbench& w = world.w;
     prepare(world, 10);
@@ -118,14 +119,14 @@ void benchCc(const Archive& archive) {
     takeOver(w, 6, 5);
     world.press("Command29");
     world.press("Command34");
-    w.Fg22.setRows(sorte == 3 ? 6 : 1);
-    const auto measure = [&](auto check) { return secondsOf([&] { check(w, sorte); }, 0.3); };
-    const double slow = measure(VerificaCandidatiPerEsteso), quick = measure(VerificaCandidati);
+    w.Fg22.setRows(table == Table::Terni ? 6 : 1);
+    const auto measure = [&](auto check) { return secondsOf([&] { check(w, table); }, 0.3); };
+    const double slow = measure(fullCandidateCheck), quick = measure(VerificaCandidati);
     w.FgF.setRows(2);
-    const double slowEnd = measure(VerificaCandidatiPerEsteso), quickEnd = measure(VerificaCandidati);
+    const double slowEnd = measure(fullCandidateCheck), quickEnd = measure(VerificaCandidati);
     fmt::print(
         "CC of 100 candidates, table {}: {:.3f} ms for {:.1f} ms in full; counting alone {:.3f} ms, {:.0f} times\n",
-        sorte, quick * 1e3, slow * 1e3, (quick - quickEnd) * 1e3, (slow - slowEnd) / (quick - quickEnd));
+        traitsOf(table).code, quick * 1e3, slow * 1e3, (quick - quickEnd) * 1e3, (slow - slowEnd) / (quick - quickEnd));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "cases/case_rows.h"
 #include "cases/case_search.h"
 #include "cases/selections.h"
 #include "core/errors.h"

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "cases/case_rows.h"
+#include "cases/method_codec.h"
 #include "cases/selections.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -61,46 +63,6 @@ void readNumbers(Workbench& w) {
   }
 }
 
-Situation situationOf(const Workbench& w, SituationKind kind) {
-  return {.kind = kind,
-          .reference = w.EstrazioneRiferimento,
-          .maxCases = w.MaxCasi,
-          .wheel = w.RuotaRilevazione,
-          .wheels = w.RuoteRilevazione,
-          .positions = w.PosizioniScelte,
-          .numbers = w.NumeriScelti,
-          .quantity = w.QuantiNumeri,
-          .period = w.ValoreMensile,
-          .forceLast = w.Ch_ultima.checked(),
-          .twoElements = w.Ch_analisi2ruote.checked(),
-          .back = w.Retro,
-          .quantity1 = w.QNR1,
-          .quantity2 = w.QNR2,
-          .oneToOne = w.ChDDS.checked(),
-          .isotopes = w.Ch_ISO.checked()};
-}
-
-void writeElement(Workbench& w, int row, int column, const FoundElement& element) {
-  w.FgEv.setNumber(row, column, element.draw);
-  w.FgEv.setText(row, column + 1, w.archive.DateEstrazioni(element.draw));
-  w.FgEv.setText(row, column + 2, CodiciRuote[static_cast<std::size_t>(element.wheel)]);
-  w.FgEv.setBack(row, column + 2, Giallo);
-  w.FgEv.setBold(row, column + 2);
-  for (int p = 1; p <= kPositions; ++p) {
-    w.FgEv.setNumber(row, column + 2 + p, w.archive.NumeriEstratti(element.draw, element.wheel, p));
-    if (element.marks[static_cast<std::size_t>(p)]) w.FgEv.setBack(row, column + 2 + p, VerdeMedio);
-  }
-}
-
-void writeCases(Workbench& w, const std::vector<FoundCase>& cases) {
-  for (const FoundCase& found : cases) {
-    const int row = w.FgEv.appendRow();
-    w.FgEv.setNumber(row, case_column::kProg, row);
-    writeElement(w, row, case_column::kDraw, found.first);
-    if (found.second) writeElement(w, row, case_column::kDraw2, *found.second);
-  }
-}
-
 }  // namespace
 
 void RicavaElencoEstrazioni(Workbench& w) {
@@ -125,7 +87,7 @@ void RicavaElencoEstrazioni(Workbench& w) {
     w.shell().message({.text = "Selezionare un valore compreso tra 1 e 45"});
     return;
   }
-  const std::vector<FoundCase> cases = detectCases(w.archive, situationOf(w, kind), w.PosizioniColpite);
+  const std::vector<FoundCase> cases = detectCases(w.archive, situationOf(w), w.PosizioniColpite);
   w.NumeroCasi = static_cast<int>(cases.size());
   writeCases(w, cases);
   w.SSTab1.set(kTabCases);

@@ -1,7 +1,11 @@
 #include "cases/selections.h"
 
+#include <array>
 #include <string>
 
+#include "cases/case_rows.h"
+#include "cases/formula_rows.h"
+#include "cases/hit_rows.h"
 #include "cases/read_selections.h"
 #include "core/text.h"
 
@@ -43,20 +47,23 @@ void fillLists(Workbench& w) {
   fill(w.Combo1R_2N, {"", "N1 + N2", "N1 - N2", "N2 - N1", "N1 X N2", "D1 e U2", "D2 e U1"}, 0);
 }
 
-void hideColumns(Grid& grid, std::initializer_list<int> columns) {
-  for (int column : columns) grid.setColumnHidden(column);
+template <class Columns>
+void hideColumns(Grid& grid, const Columns& columns) {
+  for (const int column : columns) grid.setColumnHidden(column);
 }
 
 void hideWorkingColumns(Workbench& w) {
-  hideColumns(w.FgF, {1, 4, 7, 14, 15, 16, 19, 20});
-  for (Grid* formulas : {&w.Fg00.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid()})
-    hideColumns(*formulas, {1, 4, 7, 14, 15, 16, 18, 19, 20, 21});
-  hideColumns(w.FgEv, {20, 21});
-  hideColumns(w.FgSSS, {3, 4});
-  for (Grid* hits : {&w.FgZ0.grid(), &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgZ100.grid()})
-    hideColumns(*hits, {4, 5, 6, 7, 8, 9, 10, 11, 12});
-  hideColumns(w.Fg15, {4, 5});
-  hideColumns(w.FgRagg, {2});
+  hideColumns(w.FgF, hiddenRankingColumns());
+  for (const TableTraits& table : kTables) {
+    hideColumns(w.formulas(table.table), hiddenTableColumns());
+    hideColumns(w.hits(table.table), kHiddenHitColumns);
+  }
+  hideColumns(w.FgZZ, kHiddenHitColumns);
+  hideColumns(w.FgZ100, kHiddenHitColumns);
+  hideColumns(w.FgEv, kHiddenCaseColumns);
+  hideColumns(w.FgSSS, std::array{3, 4});
+  hideColumns(w.Fg15, std::array{4, 5});
+  hideColumns(w.FgRagg, std::array{2});
 }
 
 void paintAll(Grid& grid, Rgb colour) {

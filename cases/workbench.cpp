@@ -2,19 +2,12 @@
 
 #include <string>
 
+#include "cases/case_rows.h"
+#include "cases/formula_rows.h"
+#include "cases/hit_rows.h"
+
 namespace trv5 {
 namespace {
-
-constexpr std::string_view kCaseHeading =
-    "Prog|N° est|Data Estraz  |Ru |1|2|3|4|5|N° est|Data Estraz  |Ru |1|2|3|4|5|S1|S2|S3|S4|S5|LU";
-constexpr std::string_view kCandidateHeading =
-    "|1|R1|P1|2|R2|P2|3|R3|P3|Operazione|Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo";
-constexpr std::string_view kFormulaHeading =
-    "|1|R1|P1|2|R2|P2|3|R3|P3|Operazione|Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo|Sorte";
-constexpr std::string_view kScratchHeading =
-    "Prog|1|R1|P1|2|R2|P2|3|R3|P3|Operatore    |Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo|Sorte";
-constexpr std::string_view kSummaryHeading =
-    "Prog|N° Estr|Data ricavo    |QN |R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
 
 struct ButtonRow {
   const char* name;
@@ -218,7 +211,7 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
       ChFix1R(*this, "ChFix1R", "Utilizza Fix"),
       Ch_Scoperti(*this, "Ch_Scoperti", "Casi scoperti", "Cerca solo sui casi non ancora coperti"),
       ChVerifica(*this, "ChVerifica", "Verifica automatica", "Verifica la tabella a ogni previsione aggiunta"),
-      FgF(*this, "FgF", kCandidateHeading),
+      FgF(*this, "FgF", rankingHeading()),
       Cmd_LaSorte(*this, "Cmd_LaSorte", {1, 2, 3, 6}),
       SSTab3(*this, "SSTab3",
              {{0, "Ambate"},
@@ -231,10 +224,10 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
               {7, "Raggruppamento"},
               {8, "Informazioni"},
               {9, "Configurazioni"}}),
-      Fg11(*this, "Fg11", kFormulaHeading),
-      Fg22(*this, "Fg22", kFormulaHeading),
-      Fg33(*this, "Fg33", kFormulaHeading),
-      Fg00(*this, "Fg00", kFormulaHeading),
+      Fg11(*this, "Fg11", tableHeading()),
+      Fg22(*this, "Fg22", tableHeading()),
+      Fg33(*this, "Fg33", tableHeading()),
+      Fg00(*this, "Fg00", tableHeading()),
       FgZ1(*this, "FgZ1", kHitHeading),
       FgZ2(*this, "FgZ2", kHitHeading),
       FgZ3(*this, "FgZ3", kHitHeading),
@@ -263,7 +256,7 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
       Fg_Stat(*this, "Fg_Stat", 11, 2),
       Fg_Graf(*this, "Fg_Graf", 3, 3),
       FgZ100(*this, "FgZ100", kHitHeading),
-      Fg99(*this, "Fg99", kScratchHeading),
+      Fg99(*this, "Fg99", scratchHeading()),
       FgDett(*this, "FgDett", ""),
       FgS1(*this, "FgS1", ""),
       FgS2(*this, "FgS2", ""),
@@ -274,6 +267,16 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
       FgSort(*this, "FgSort", "") {
   for (const ButtonRow& row : kButtons)
     m_buttons.push_back(std::make_unique<Button>(*this, row.name, row.caption, row.toolTip));
+}
+
+GridControl& Workbench::formulas(Table table) {
+  const ByTable<GridControl*> grids = {&Fg11, &Fg22, &Fg33, &Fg00};
+  return *grids[indexOf(table)];
+}
+
+GridControl& Workbench::hits(Table table) {
+  const ByTable<GridControl*> grids = {&FgZ1, &FgZ2, &FgZ3, &FgZ0};
+  return *grids[indexOf(table)];
 }
 
 void Workbench::disableDeadButtons() {

@@ -7,20 +7,9 @@
 #include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/controls.h"
+#include "method/table.h"
 
 namespace trv5 {
-
-/// Columns of the case list `FgEv`.
-namespace case_column {
-inline constexpr int kProg = 0, kDraw = 1, kDate = 2, kWheel = 3, kNumbers = 4;
-inline constexpr int kDraw2 = 9, kDate2 = 10, kWheel2 = 11, kNumbers2 = 12;
-inline constexpr int kHits = 17;       ///< S1; column kHits + sorte - 1
-inline constexpr int kLunghetta = 22;  ///< LU
-}  // namespace case_column
-
-/// Heading of the hit grids.
-inline constexpr std::string_view kHitHeading =
-    "Prog|N° Estr|Data ricavo    |Riga|R|Ru |G1|G2|G3|G4|G5|G6|R|RU |C S|N° Estr|Data esito      |N1|N2|N3|N4|N5";
 
 /// The workbench, where a method is built: all its controls and the state that its operations share. Operations are
 /// functions on it; the layers connect them to its buttons.
@@ -88,6 +77,12 @@ class Workbench : public Form, public WorkbenchState {
   // Without a place on screen.
   GridControl FgZ100, Fg99, FgDett, FgS1, FgS2, FgS3, FgS4, FgS5, FgS6, FgSort;
 
+  /// The formulas of a table, and the hits of its verification.
+  GridControl& formulas(Table table);
+  const GridControl& formulas(Table table) const { return const_cast<Workbench*>(this)->formulas(table); }
+  GridControl& hits(Table table);
+  const GridControl& hits(Table table) const { return const_cast<Workbench*>(this)->hits(table); }
+
   /// The button of that name; throws std::logic_error when there is none.
   Button& button(std::string_view name) const { return get<Button>(name); }
 
@@ -98,10 +93,5 @@ class Workbench : public Form, public WorkbenchState {
  private:
   std::vector<std::unique_ptr<Button>> m_buttons;
 };
-
-/// Draw index of the case in row `row` of `FgEv`.
-inline int caseDraw(const Workbench& w, int row) {
-  return w.FgEv.number(row, case_column::kDraw);
-}
 
 }  // namespace trv5

@@ -6,25 +6,10 @@
 #include <vector>
 
 #include "core/wheels.h"
+#include "method/evaluation.h"
 #include "method/flags.h"
 
 namespace trv5 {
-
-/// The working record of one evaluation of a formula. One record serves the whole workbench: a field that an evaluation
-/// doesn't assign keeps the value of the evaluation before, and users' saved methods rely on it.
-struct ParametriFormula {
-  int Estr = 0;        ///< draw index of the case
-  int R1 = 0, P1 = 0;  ///< wheel 0..10 and position 1..5 of each element
-  int R2 = 0, P2 = 0;
-  int R3 = 0, P3 = 0;
-  int Fix = 0;             ///< 0 = no fix
-  std::string Operazione;  ///< operator literal
-  std::string Alteraz;     ///< alteration literal
-  int Nr = 0, Qn = 0;      ///< number of wheels (0 = pure number), numbers taken per wheel
-  int NumeroOttenuto = 0;  ///< the result; also the carried value when nothing assigns it
-  int Elem1 = 0, Elem2 = 0, Elem3 = 0;
-  int N1 = 0, N2 = 0, N3 = 0;  ///< the elements after the zero rule
-};
 
 /// What the workbench remembers beside its controls. Operations set these fields from the controls when they run, and
 /// later operations read them as they stand: much of it is stale on purpose.

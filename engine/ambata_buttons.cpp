@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "cases/formula_rows.h"
 #include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
@@ -68,7 +69,7 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
 
   writeRanking(w, ranking, button.shape, request.withFix);
   for (std::size_t i = 0; button.wheelsOfSet > 0 && i < ranking.size(); ++i)
-    w.FgF.setText(static_cast<int>(i) + 1, formula_column::kWheels,
+    w.FgF.setText(static_cast<int>(i) + 1, formula_column::kOwnWheels,
                   wheelCodes(request.wheelSets[static_cast<std::size_t>(ranking[i].wheelSet)]));
   if (button.shape != Shape::OneNumber) writeAllRows(w, kOperator, operatorText(w, button.shape));
   writeAllRows(w, kAlteration, w.Combo1R_1N.text());

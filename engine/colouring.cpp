@@ -1,7 +1,7 @@
 #include "engine/colouring.h"
 
-#include "engine/evaluation.h"
-#include "engine/hit_rows.h"
+#include "cases/formula_rows.h"
+#include "cases/hit_rows.h"
 
 namespace trv5 {
 namespace {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cases/formula_rows.h"
 #include "engine/candidate_check.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
@@ -12,8 +13,6 @@
 
 namespace trv5 {
 namespace {
-
-constexpr int kTerni = 3, kLunghetta = 6;
 
 CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
   CompanionRequest request{.archive = &w.archive,
@@ -27,9 +26,9 @@ CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
                            .allowedFix = w.FixAmmessi,
                            .withFix = w.ChFix1R.checked(),
                            .keep = w.Elenco};
-  if (button.sorte == kTerni) request.least = request.most = 2;  // the ambo must stand whole on the wheel
-  if (button.sorte == kLunghetta) request.least = std::max(1, w.Sorte - 1);
-  for (const SourceHit& hit : countingHits(w, hitSource(button.sorte)))
+  if (button.table == Table::Terni) request.least = request.most = 2;  // the ambo must stand whole on the wheel
+  if (button.table == Table::Lunghetta) request.least = std::max(1, w.Sorte - 1);
+  for (const HitRow& hit : countingHits(w, hitSource(button.table)))
     request.rows.push_back({hit.caseDraw, hit.hitDraw, hit.numbers});
   return request;
 }
@@ -38,15 +37,15 @@ CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
 
 void CercaCompagni(Workbench& w, const CompanionButton& button) {
   using namespace formula_column;
-  if (!hitsAreThere(w, hitSource(button.sorte))) return;
-  if (button.sorte == kLunghetta) w.Sorte = w.ComboSorte.index() + 1;
+  if (!hitsAreThere(w, hitSource(button.table))) return;
+  if (button.table == Table::Lunghetta) w.Sorte = w.ComboSorte.index() + 1;
   startLog(w);
   SettaggioFix(w);
   w.Elenco = w.ComboEle.number();
   w.Colpi = w.ComboColpi.number();
   if (operatorIndex(w) < button.knownOperators)
     w.OperazioneCorrente = kOperators[static_cast<std::size_t>(operatorIndex(w))];
-  if (button.sorte == kLunghetta) PreparaPerScoperti(w);
+  if (button.table == Table::Lunghetta) PreparaPerScoperti(w);
 
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, w.Elenco);
@@ -57,11 +56,11 @@ void CercaCompagni(Workbench& w, const CompanionButton& button) {
   writeAllRows(w, kAlteration, w.Combo1R_1N.text());
   writeAllRows(w, kNr, button.nr);
   writeAllRows(w, kQn, button.qn);
-  closeCompanionSearch(w, button.sorte);
+  closeCompanionSearch(w, button.table);
 }
 
-void closeCompanionSearch(Workbench& w, int sorte) {
-  VerificaCandidati(w, sorte);
+void closeCompanionSearch(Workbench& w, Table table) {
+  VerificaCandidati(w, table);
   w.FgF.sortByNumber(formula_column::kCc, true);
   ColoraFgF(w);
   addTime(w);

@@ -10,7 +10,7 @@ namespace trv5 {
 /// A search of the number that came out together with earlier hits, and what it has of its own.
 struct CompanionButton {
   const char* name;
-  int sorte;  ///< the table that it works for: 2 ambi, 3 terni, 6 lunghetta
+  Table table;  ///< that it works for
   Shape shape;
   const char* nr;  ///< columns 14 and 15 of the rows
   const char* qn;
@@ -23,25 +23,30 @@ struct CompanionButton {
 
 /// The searches of the tabs Ambi, Terni and Lunghetta.
 inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
-    {.name = "Command28", .sorte = 2, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command28", .table = Table::Ambi, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
     {.name = "Command39",
-     .sorte = 2,
+     .table = Table::Ambi,
      .shape = Shape::TwoOneWheel,
      .nr = "1",
      .qn = "2",
      .knownOperators = 6,
      .writesOperator = true},
-    {.name = "Command37", .sorte = 2, .shape = Shape::ThreeOneWheel, .nr = "1", .qn = "3", .knownOperators = 4},
+    {.name = "Command37",
+     .table = Table::Ambi,
+     .shape = Shape::ThreeOneWheel,
+     .nr = "1",
+     .qn = "3",
+     .knownOperators = 4},
     {.name = "Command31",
-     .sorte = 2,
+     .table = Table::Ambi,
      .shape = Shape::TwoTwoWheels,
      .nr = "1",
      .qn = "2",
      .knownOperators = 4,
      .writesOperator = true},
-    {.name = "Command46", .sorte = 3, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command46", .table = Table::Terni, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
     {.name = "Command43",
-     .sorte = 3,
+     .table = Table::Terni,
      .shape = Shape::TwoOneWheel,
      .nr = "1",
      .qn = "2",
@@ -49,7 +54,7 @@ inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
      .writesOperator = true,
      .guarded = true},
     {.name = "Command45",
-     .sorte = 3,
+     .table = Table::Terni,
      .shape = Shape::ThreeOneWheel,
      .nr = "1",
      .qn = "3",
@@ -57,24 +62,29 @@ inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
      .writesOperator = true,
      .guarded = true},
     {.name = "Command40",
-     .sorte = 3,
+     .table = Table::Terni,
      .shape = Shape::TwoTwoWheels,
      .nr = "2",
      .qn = "2",
      .knownOperators = 6,
      .writesOperator = true,
      .guarded = true},
-    {.name = "Command56", .sorte = 6, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
+    {.name = "Command56", .table = Table::Lunghetta, .shape = Shape::OneNumber, .nr = "1", .qn = "1"},
     {.name = "Command58",
-     .sorte = 6,
+     .table = Table::Lunghetta,
      .shape = Shape::TwoOneWheel,
      .nr = "1",
      .qn = "2",
      .knownOperators = 6,
      .writesOperator = true},
-    {.name = "Command57", .sorte = 6, .shape = Shape::ThreeOneWheel, .nr = "1", .qn = "3", .knownOperators = 4},
+    {.name = "Command57",
+     .table = Table::Lunghetta,
+     .shape = Shape::ThreeOneWheel,
+     .nr = "1",
+     .qn = "3",
+     .knownOperators = 4},
     {.name = "Command59",
-     .sorte = 6,
+     .table = Table::Lunghetta,
      .shape = Shape::TwoTwoWheels,
      .nr = "1",
      .qn = "2",
@@ -88,6 +98,6 @@ inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
 void CercaCompagni(Workbench& w, const CompanionButton& button);
 
 /// What every search of companions ends with: CC of its table, the rows by covered cases, colours, the time.
-void closeCompanionSearch(Workbench& w, int sorte);
+void closeCompanionSearch(Workbench& w, Table table);
 
 }  // namespace trv5

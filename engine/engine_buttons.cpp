@@ -17,17 +17,19 @@ namespace {
 
 // What the four tables of formulas have in common, by the names of their buttons.
 struct TableButtons {
-  int sorte;
+  Table table;
   const char *all, *beyondLimit, *remove, *clear;
   const char* forCc;  // the verification behind CC; null where there is none
 };
 
-constexpr TableButtons kTableButtons[] = {{1, "Command29", "Command90", "Command32", "Command19", nullptr},
-                                          {2, "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "Command94"},
-                                          {3, "Command48", "Command91", "Rimuove_Fg33", "Nuova_Fg33", "Command95"},
-                                          {6, "Command51", "Command92", "Rimuove_Fg00", "Nuova_Fg00", "Command69"}};
+constexpr TableButtons kTableButtons[] = {
+    {Table::Ambate, "Command29", "Command90", "Command32", "Command19", nullptr},
+    {Table::Ambi, "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "Command94"},
+    {Table::Terni, "Command48", "Command91", "Rimuove_Fg33", "Nuova_Fg33", "Command95"},
+    {Table::Lunghetta, "Command51", "Command92", "Rimuove_Fg00", "Nuova_Fg00", "Command69"}};
 
-constexpr std::pair<const char*, int> kCcButtons[] = {{"Command64", 2}, {"Command73", 3}, {"Command84", 6}};
+constexpr std::pair<const char*, Table> kCcButtons[] = {
+    {"Command64", Table::Ambi}, {"Command73", Table::Terni}, {"Command84", Table::Lunghetta}};
 
 // The utilities of a result grid.
 struct GridButtons {
@@ -43,22 +45,22 @@ constexpr GridButtons kGridButtons[] = {{&Workbench::FgZ1, "Stampa_FgZ1", "Copia
 
 void connectTables(Workbench& w) {
   for (const TableButtons& row : kTableButtons) {
-    w.button(row.all).onEvent([&w, &row] { verificaTutte(w, tableKind(row.sorte)); });
-    w.button(row.beyondLimit).onEvent([&w, &row] { verificaOltreLimite(w, tableKind(row.sorte)); });
-    w.button(row.remove).onEvent([&w, &row] { RimuoveFormula(w, row.sorte); });
-    w.button(row.clear).onEvent([&w, &row] { SvuotaTabella(w, row.sorte); });
-    if (row.forCc != nullptr) w.button(row.forCc).onEvent([&w, &row] { verificaPerCc(w, tableKind(row.sorte)); });
+    w.button(row.all).onEvent([&w, &row] { verificaTutte(w, row.table); });
+    w.button(row.beyondLimit).onEvent([&w, &row] { verificaOltreLimite(w, row.table); });
+    w.button(row.remove).onEvent([&w, &row] { RimuoveFormula(w, row.table); });
+    w.button(row.clear).onEvent([&w, &row] { SvuotaTabella(w, row.table); });
+    if (row.forCc != nullptr) w.button(row.forCc).onEvent([&w, &row] { verificaPerCc(w, row.table); });
   }
-  for (const auto& [name, sorte] : kCcButtons)
-    w.button(name).onEvent([&w, sorte = sorte] { VerificaCandidati(w, sorte); });
+  for (const auto& [name, table] : kCcButtons)
+    w.button(name).onEvent([&w, table = table] { VerificaCandidati(w, table); });
   for (const GridButtons& row : kGridButtons) {
     GridControl& grid = w.*row.grid;
     w.button(row.print).onEvent([&grid] { StampaTabella(grid); });
     w.button(row.copy).onEvent([&grid] { CopiaTabella(grid); });
     w.button(row.clean).onEvent([&grid] { PulisceCelleEsiti(grid); });
   }
-  for (const auto& [sorte, button] : w.Cmd_LaSorte)
-    button->onEvent([&w, sorte = sorte] { AggiungePrevisione(w, sorte); });
+  for (const TableTraits& table : kTables)
+    w.Cmd_LaSorte[table.code].onEvent([&w, &table] { AggiungePrevisione(w, table.table); });
   w.FgF.onCellDoubleClick([&w](int, int) {
     for (const auto& [sorte, button] : w.Cmd_LaSorte)
       if (button->enabled()) button->press();

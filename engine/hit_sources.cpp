@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
-#include "engine/hit_rows.h"
+#include "cases/case_rows.h"
 
 namespace trv5 {
 namespace {
@@ -19,12 +18,12 @@ bool leftOut(const Workbench& w, const HitSource& source, int caseRow) {
 
 }  // namespace
 
-const HitSource& hitSource(int sorte) {
+const HitSource& hitSource(Table table) {
   static constexpr std::array<HitSource, 3> kSources = {
-      {{2, &Workbench::FgZ1, 18, 1, "Attenzione manca l'elaborazione per le ambate."},
-       {3, &Workbench::FgZ2, 19, 2, "Attenzione manca l'elaborazione per gli ambi."},
-       {6, &Workbench::FgZ100, 0, 5, nullptr}}};
-  return *std::find_if(kSources.begin(), kSources.end(), [sorte](const HitSource& s) { return s.sorte == sorte; });
+      {{Table::Ambi, &Workbench::FgZ1, 18, 1, "Attenzione manca l'elaborazione per le ambate."},
+       {Table::Terni, &Workbench::FgZ2, 19, 2, "Attenzione manca l'elaborazione per gli ambi."},
+       {Table::Lunghetta, &Workbench::FgZ100, 0, 5, nullptr}}};
+  return *std::find_if(kSources.begin(), kSources.end(), [table](const HitSource& s) { return s.table == table; });
 }
 
 bool hitsAreThere(Workbench& w, const HitSource& source) {
@@ -33,18 +32,10 @@ bool hitsAreThere(Workbench& w, const HitSource& source) {
   return false;
 }
 
-std::vector<SourceHit> countingHits(const Workbench& w, const HitSource& source) {
-  using namespace hit_column;
-  const Grid& hits = w.*source.hits;
-  std::vector<SourceHit> found;
-  for (int row = 1; row < hits.rows(); ++row) {
-    SourceHit hit{hits.number(row, kCase), hits.number(row, kCaseDraw), hits.number(row, kDraw), {}};
-    if (leftOut(w, source, hit.caseRow) || hit.hitDraw <= 0) continue;
-    for (int column = kNumbers; column < kNumbers + source.numberColumns; ++column)
-      if (const int n = hits.number(row, column); n > 0) hit.numbers.push_back(n);
-    found.push_back(std::move(hit));
-  }
-  return found;
+std::vector<HitRow> countingHits(const Workbench& w, const HitSource& source) {
+  std::vector<HitRow> rows = readHits(w.*source.hits, source.numberColumns);
+  std::erase_if(rows, [&](const HitRow& row) { return row.hitDraw <= 0 || leftOut(w, source, row.caseRow); });
+  return rows;
 }
 
 }  // namespace trv5

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cases/formula_rows.h"
 #include "engine/colouring.h"
 #include "engine/companion_buttons.h"
 #include "engine/evaluation.h"
@@ -13,8 +14,6 @@
 
 namespace trv5 {
 namespace {
-
-constexpr int kLunghetta = 6;
 
 struct NumberRow {
   int number = 0;  // 0: a blank row
@@ -53,11 +52,11 @@ void writeNumber(Workbench& w, int row, int number, const NumberCount& count) {
   w.FgF.setNumber(row, kCc, count.cc);
 }
 
-NumberCounts countCompanions(const Workbench& w, int sorte) {
-  if (sorte == kLunghetta) return {};
+NumberCounts countCompanions(const Workbench& w, Table table) {
+  if (table == Table::Lunghetta) return {};
   std::vector<PureNumberRow> rows;
   // Rows left from a longer case list count for no case of this one.
-  for (const SourceHit& hit : countingHits(w, hitSource(sorte)))
+  for (const HitRow& hit : countingHits(w, hitSource(table)))
     if (hit.caseRow < w.FgEv.rows()) rows.push_back({hit.caseRow, hit.hitDraw, hit.numbers});
   return countNumbersAtHits(w.archive, rows, w.RuoteGioco);
 }
@@ -80,7 +79,7 @@ void CercaNumeri(Workbench& w, const PureButton& button) {
   for (int row = 1; row < w.FgF.rows(); ++row) {
     const NumberRow& found = rows[static_cast<std::size_t>(row - 1)];
     writeNumber(w, row, found.number, found.count);
-    if (button.wheelsOfSet > 0) w.FgF.setText(row, formula_column::kWheels, wheelCodes(sets[found.wheelSet]));
+    if (button.wheelsOfSet > 0) w.FgF.setText(row, formula_column::kOwnWheels, wheelCodes(sets[found.wheelSet]));
   }
   // The number is a fix, and obeys the same switch: without fix the list shows counts alone.
   if (!w.ChFix1R.checked()) writeAllRows(w, kFix, "");
@@ -94,16 +93,16 @@ void CercaNumeri(Workbench& w, const PureButton& button) {
 
 void CercaNumeriCompagni(Workbench& w, const PureCompanionButton& button) {
   using namespace formula_column;
-  if (!hitsAreThere(w, hitSource(button.sorte))) return;
+  if (!hitsAreThere(w, hitSource(button.table))) return;
   startLog(w);
-  if (button.sorte == kLunghetta) {
+  if (button.table == Table::Lunghetta) {
     PreparaPerScoperti(w);
     w.Sorte = w.ComboSorte.index() + 1;
   }
   w.Elenco = w.ComboEle.number();
   SettaggioFix(w);
   w.Colpi = w.ComboColpi.number();
-  const NumberCounts counts = countCompanions(w, button.sorte);
+  const NumberCounts counts = countCompanions(w, button.table);
 
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, kMostNumber);
@@ -111,7 +110,7 @@ void CercaNumeriCompagni(Workbench& w, const PureCompanionButton& button) {
   w.FgF.sortByNumber(kCc, true);
   writeAllRows(w, kNr, "0");
   writeAllRows(w, kQn, "0");
-  closeCompanionSearch(w, button.sorte);
+  closeCompanionSearch(w, button.table);
 }
 
 }  // namespace trv5

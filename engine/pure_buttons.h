@@ -23,11 +23,11 @@ void CercaNumeri(Workbench& w, const PureButton& button);
 /// A search of the pure number that completes earlier hits.
 struct PureCompanionButton {
   const char* name;
-  int sorte;  ///< 2 ambi, 3 terni, 6 lunghetta
+  Table table;  ///< that it works for
 };
 
 inline constexpr std::array<PureCompanionButton, 3> kPureCompanionButtons = {
-    {{"Command105", 2}, {"Command107", 3}, {"Command108", 6}}};
+    {{"Command105", Table::Ambi}, {"Command107", Table::Terni}, {"Command108", Table::Lunghetta}}};
 
 /// The "NUM" buttons of the tabs Ambi, Terni and Lunghetta. That of the lunghetta counts nothing: it lists the 90
 /// numbers for the verification that follows.

@@ -1,6 +1,6 @@
 #include "engine/result_forms.h"
 
-#include "cases/workbench.h"
+#include "cases/hit_rows.h"
 #include "engine/table_tools.h"
 
 namespace trv5 {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/evaluation.h"
-#include "engine/hit_rows.h"
+#include "cases/case_rows.h"
+#include "cases/formula_rows.h"
 
 namespace trv5 {
 
@@ -39,12 +39,7 @@ void writeRanking(Workbench& w, const std::vector<Candidate>& ranking, Shape sha
   int row = 0;
   for (const Candidate& candidate : ranking) {
     ++row;
-    for (int e = 0; e < elementsOf(shape); ++e) {
-      const int wheel = candidate.elements.wheels[static_cast<std::size_t>(e)];
-      w.FgF.setNumber(row, kR1 + 3 * e, wheel);
-      w.FgF.setText(row, kRu1 + 3 * e, CodiciRuote[static_cast<std::size_t>(wheel)]);
-      w.FgF.setNumber(row, kP1 + 3 * e, candidate.elements.positions[static_cast<std::size_t>(e)]);
-    }
+    writeElements(w.FgF, row, candidate.elements, elementsOf(shape));
     if (withFix) w.FgF.setNumber(row, kFix, candidate.fix);
     w.FgF.setNumber(row, kPres, candidate.pres);
     w.FgF.setNumber(row, kCc, candidate.cc);
@@ -53,16 +48,6 @@ void writeRanking(Workbench& w, const std::vector<Candidate>& ranking, Shape sha
 
 void writeAllRows(Workbench& w, int column, const std::string& text) {
   for (int row = 1; row < w.FgF.rows(); ++row) w.FgF.setText(row, column, text);
-}
-
-std::string wheelCodes(WheelSet wheels) {
-  std::string codes;
-  for (int wheel = 0; wheel < kWheels; ++wheel) {
-    if (!holds(wheels, wheel)) continue;
-    if (!codes.empty()) codes += '-';
-    codes += CodiciRuote[static_cast<std::size_t>(wheel)];
-  }
-  return codes;
 }
 
 std::vector<WheelSet> wheelSetsOf(int size) {

@@ -30,9 +30,6 @@ void writeRanking(Workbench& w, const std::vector<Candidate>& ranking, Shape sha
 /// Writes `text` into a column of all candidate rows, the blank ones too.
 void writeAllRows(Workbench& w, int column, const std::string& text);
 
-/// Codes of the wheels of a set joined by "-".
-std::string wheelCodes(WheelSet wheels);
-
 /// All sets of `size` wheels (1, 2 or 3) in ascending order, the first wheel outermost.
 std::vector<WheelSet> wheelSetsOf(int size);
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "engine/hit_rows.h"
+#include "cases/case_rows.h"
 
 namespace trv5 {
 namespace {
@@ -33,13 +33,9 @@ void ContaEsitix(Workbench& w) {
   if (!w.FgEv.hasData()) return;
   const Grid::Batch batch(w.FgSSS);
   for (int column = case_column::kHits; column <= case_column::kLunghetta; ++column) {
-    int total = 0, covered = 0;
-    for (int row = 1; row < w.FgEv.rows(); ++row) {
-      total += w.FgEv.number(row, column);
-      if (isCovered(w, row, column)) ++covered;
-    }
-    w.FgSSS.setNumber(0, column - case_column::kHits, total);
-    w.FgSSS.setNumber(1, column - case_column::kHits, covered);
+    const Totals totals = totalsOfMarks(w, column);
+    w.FgSSS.setNumber(0, column - case_column::kHits, totals.hits);
+    w.FgSSS.setNumber(1, column - case_column::kHits, totals.cases);
   }
 }
 
@@ -54,12 +50,7 @@ void CreaStatistica(Workbench& w) {
   stat.setFore(kSection, 1, Rosso);
 }
 
-void scriveStatistica(Workbench& w, const Grid& hitGrid, const char* section, const std::string& covered) {
-  int positive = 0, negative = 0;
-  for (int row = 1; row < hitGrid.rows(); ++row) {
-    if (!hitGrid.text(row, hit_column::kDraw).empty()) ++positive;
-    if (hitGrid.back(row, hit_column::kCase) == AranciaMedio) ++negative;
-  }
+void scriveStatistica(Workbench& w, std::string_view section, const std::string& covered, int positive, int negative) {
   w.Fg_Stat.setText(kSection, 1, section);
   w.Fg_Stat.setText(kCovered, 1, covered);
   w.Fg_Stat.setNumber(kPositive, 1, positive);

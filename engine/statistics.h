@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "cases/workbench.h"
 
 namespace trv5 {
@@ -16,9 +19,8 @@ void PopolaGrafico(Workbench& w);
 /// Empties `Fg_Graf` and `FgSSS` after a verification beyond the limit: the last full verification no longer holds.
 void azzeraStatistiche(Workbench& w);
 
-/// Rows 3 to 5 of `Fg_Stat` from a hit grid: hit rows, cases without hit, open cases; row 0 the section, row 2 the text
-/// `covered`.
-void scriveStatistica(Workbench& w, const Grid& hitGrid, const char* section, const std::string& covered);
+/// Rows 0 and 2 to 5 of `Fg_Stat`: the section, the text `covered`, hits, cases without hit, open cases.
+void scriveStatistica(Workbench& w, std::string_view section, const std::string& covered, int positive, int negative);
 
 /// Column 1 of `Fg_Stat` for the summary of a whole method: hit rows and cases without hit as counted there.
 void scriveRiepilogo(Workbench& w, int positive, int negative);

@@ -1,125 +1,106 @@
 #include "engine/summary.h"
 
-#include <algorithm>
 #include <array>
-#include <exception>
+#include <set>
 #include <string>
+#include <vector>
 
-#include "engine/hit_rows.h"
+#include "cases/case_rows.h"
+#include "cases/case_search.h"
+#include "cases/hit_rows.h"
 #include "engine/statistics.h"
+#include "engine/verification.h"
+#include "method/summary.h"
 
 namespace trv5 {
 namespace {
 
 using namespace hit_column;
 
-constexpr int kKind = kRow;  // column 3 of FgZZ: 1 ambata, 2 ambo, 3 terno, empty without hit
+constexpr int kSorte = kRow;  // column 3 of FgZZ: 1 ambata, 2 ambo, 3 terno, empty without hit
 
-struct SummaryKind {
-  int code;
-  Check Workbench::*chosen;
-  GridControl Workbench::*hits;
+// A row of a hit grid.
+struct Source {
+  const Grid* grid;
+  int row;
 };
 
-constexpr std::array<SummaryKind, 3> kKinds = {{{1, &Workbench::ChA, &Workbench::FgZ1},
-                                                {2, &Workbench::ChB, &Workbench::FgZ2},
-                                                {3, &Workbench::ChC, &Workbench::FgZ3}}};
-
-// Hit rows only: a row of a case without hit comes back, if it should, from the case list.
-void copyHits(Workbench& w, const SummaryKind& kind) {
-  const Grid& hits = w.*kind.hits;
-  for (int from = 1; from < hits.rows(); ++from) {
-    if (hits.back(from, kCase) != VerdeMedio) continue;
-    const int row = w.FgZZ.appendRow();
-    for (int column = 0; column < hits.columns(); ++column) w.FgZZ.setCell(row, column, hits.at(from, column));
-    w.FgZZ.setNumber(row, kKind, kind.code);
-  }
-}
-
-void appendCasesWithoutHit(Workbench& w) {
-  CaseFlags CasoConEsito{};
-  for (int row = 1; row < w.FgZZ.rows(); ++row)
-    CasoConEsito.at(static_cast<std::size_t>(w.FgZZ.number(row, kCase))) = true;
-  for (int i = 1; i < w.FgEv.rows(); ++i) {
-    if (CasoConEsito.at(static_cast<std::size_t>(w.FgEv.number(i, case_column::kProg)))) continue;
-    const int row = w.FgZZ.appendRow();
-    w.FgZZ.setNumber(row, kCase, i);
-    w.FgZZ.setBack(row, kCase, AranciaMedio);
-    w.FgZZ.setText(row, kCaseDraw, w.FgEv.text(i, case_column::kDraw));
-    w.FgZZ.setText(row, kCaseDate, w.FgEv.text(i, case_column::kDate));
-    w.FgZZ.setBack(row, kCaseDate, GialloChiaro);
-  }
-}
-
-// All hits of the first colpo stay, on every wheel and of every kind. Hits later than 1000 draws are first of no case.
-void keepFirstColpo(Workbench& w) {
-  std::array<int, kMostCases + 1> PrimoColpo{};
-  PrimoColpo.fill(1000);
-  const auto first = [&](int row) -> int& {
-    return PrimoColpo.at(static_cast<std::size_t>(w.FgZZ.number(row, kCase)));
-  };
-  for (int row = 1; row < w.FgZZ.rows(); ++row)
-    if (const int colpo = w.FgZZ.number(row, kColpo); colpo > 0) first(row) = std::min(first(row), colpo);
-  w.FgZZ.keepRows([&](int row) {
-    const int colpo = w.FgZZ.number(row, kColpo);
-    return colpo <= 0 || colpo == first(row);
-  });
-}
-
-void writeStatistics(Workbench& w) {
-  w.EsitiPerSorte = {};
-  int positive = 0, negative = 0;  // Positivi, Negativi
-  for (int row = 1; row < w.FgZZ.rows(); ++row) {
-    const int kind = w.FgZZ.number(row, kKind);
-    if (kind >= 1) {
-      ++w.EsitiPerSorte.at(static_cast<std::size_t>(kind));
-      ++positive;
-    } else if (w.FgZZ.back(row, kCase) != Ciano) {
-      ++negative;
+// The hits of the ticked tables, and the rows they come from.
+std::vector<SummaryHit> chosenHits(const Workbench& w, std::vector<Source>& sources) {
+  const std::array<std::pair<const Check*, Table>, 3> boxes = {
+      {{&w.ChA, Table::Ambate}, {&w.ChB, Table::Ambi}, {&w.ChC, Table::Terni}}};
+  std::vector<SummaryHit> hits;
+  for (const auto& [box, table] : boxes) {
+    if (!box->checked()) continue;
+    const Grid& grid = w.hits(table);
+    int row = grid.headingRows();
+    for (const HitRow& hit : readHits(grid, 0)) {
+      if (hit.hit) {
+        hits.push_back({hit.caseRow, hit.colpo, traitsOf(table).code});
+        sources.push_back({&grid, row});
+      }
+      ++row;
     }
   }
-  scriveRiepilogo(w, positive, negative);
-  PopolaGrafico(w);
+  return hits;
 }
 
-void paintKinds(Workbench& w) {
-  for (int row = 1; row < w.FgZZ.rows(); ++row) {
-    const int kind = w.FgZZ.number(row, kKind);
-    if (kind < 1 || kind > 3) continue;
-    for (int column = kDrawn; column < kDrawn + kPositions; ++column)
-      if (w.FgZZ.back(row, column) == Verde) w.FgZZ.setBack(row, column, ColoriSorte[static_cast<std::size_t>(kind)]);
-  }
+void writeHit(Workbench& w, int row, const Source& source, int sorte) {
+  for (int column = 0; column < source.grid->columns(); ++column)
+    w.FgZZ.setCell(row, column, source.grid->at(source.row, column));
+  w.FgZZ.setNumber(row, kSorte, sorte);
+  for (int column = kDrawn; column < kDrawn + kPositions; ++column)
+    if (w.FgZZ.back(row, column) == Verde) w.FgZZ.setBack(row, column, ColoriSorte[static_cast<std::size_t>(sorte)]);
 }
 
-void joinHits(Workbench& w) {
+void writeMiss(Workbench& w, int row, int caseRow) {
+  w.FgZZ.setNumber(row, kCase, caseRow);
+  w.FgZZ.setBack(row, kCase, AranciaMedio);
+  w.FgZZ.setText(row, kCaseDraw, w.FgEv.text(caseRow, case_column::kDraw));
+  w.FgZZ.setText(row, kCaseDate, w.FgEv.text(caseRow, case_column::kDate));
+  w.FgZZ.setBack(row, kCaseDate, GialloChiaro);
+}
+
+// False when a grid held what can't be; all the rest is done.
+bool joinTables(Workbench& w) {
+  std::vector<Source> sources;
+  const std::vector<SummaryHit> hits = chosenHits(w, sources);
+  const std::multiset<int> open = openCases(w);
+  const Summary summary =
+      summarize(hits, caseNumbering(w), std::set<int>(open.begin(), open.end()), w.Ch1esito.checked());
+
   const Grid::Batch batch(w.FgZZ);
-  w.EsitiPerSorte = {};
   w.FgZZ.cutToHeading();
-  for (const SummaryKind& kind : kKinds)
-    if ((w.*kind.chosen).checked() && (w.*kind.hits).hasData()) copyHits(w, kind);
-  appendCasesWithoutHit(w);
-  for (int row = 1; row < w.FgZZ.rows(); ++row) w.FgZZ.setBack(row, kKind, CianoMedio);
-  w.FgZZ.sortByNumbers({kCase, kColpo});
-  if (w.Ch1esito.checked()) keepFirstColpo(w);
-  countOpenCases(w, w.FgZZ);
-  writeStatistics(w);
-  paintKinds(w);
+  for (const SummaryRow& found : summary.rows) {
+    const int row = w.FgZZ.appendRow();
+    if (found.hit >= 0) {
+      const auto at = static_cast<std::size_t>(found.hit);
+      writeHit(w, row, sources[at], hits[at].sorte);
+    } else {
+      writeMiss(w, row, found.caseRow);
+    }
+    w.FgZZ.setBack(row, kSorte, CianoMedio);
+  }
+  w.CasiInCorso = static_cast<int>(open.size());
+  markOpenRows(w.FgZZ, open);
   w.FgZZ.setMerged({kCase, kCaseDraw, kCaseDate});
+  w.EsitiPerSorte = summary.bySorte;
+  scriveRiepilogo(w, summary.positive, summary.negative);
+  PopolaGrafico(w);
+  w.shell().status("Riepilogo: " + std::to_string(w.FgEv.dataRows()) + " casi, " + std::to_string(summary.positive) +
+                   " esiti");
+  return !summary.anomaly;
 }
 
 }  // namespace
 
 void CreaRiepilogo(Workbench& w) {
-  try {
-    joinHits(w);
-    w.shell().status("Riepilogo: " + std::to_string(w.FgEv.dataRows()) + " casi, " + w.Fg_Stat.text(3, 1) + " esiti");
-  } catch (const std::exception&) {
-    w.shell().message({.text = "Attenzione! probabile anomalia..", .icon = Icon::Critical});
-  }
+  if (!joinTables(w)) w.shell().message({.text = "Attenzione! probabile anomalia..", .icon = Icon::Critical});
 }
 
 void RielaboraTutto(Workbench& w) {
-  for (const char* button : {"Command44", "Command29", "Command34", "Command48", "Command51"}) w.button(button).press();
+  RicavaElencoEstrazioni(w);
+  for (const TableTraits& table : kTables) verificaTutte(w, table.table);
 }
 
 }  // namespace trv5

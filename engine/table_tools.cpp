@@ -2,7 +2,7 @@
 
 #include "core/grid_text.h"
 #include "core/wheels.h"
-#include "engine/hit_rows.h"
+#include "cases/hit_rows.h"
 
 namespace trv5 {
 

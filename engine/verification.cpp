@@ -1,214 +1,170 @@
 #include "engine/verification.h"
 
-#include <algorithm>
-#include <array>
 #include <functional>
-#include <stdexcept>
+#include <set>
 #include <string>
 
+#include "cases/case_rows.h"
+#include "cases/formula_rows.h"
+#include "cases/hit_rows.h"
+#include "cases/method_codec.h"
 #include "cases/selections.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "engine/colouring.h"
-#include "engine/evaluation.h"
-#include "engine/hit_rows.h"
 #include "engine/lunghetta.h"
 #include "engine/statistics.h"
-#include "method/formula.h"
+#include "method/verification.h"
 
 namespace trv5 {
 namespace {
 
-constexpr int kLunghettaCode = 6;
-constexpr int kMostLunghetta = 10;
-
-bool tooManyForLunghetta(Workbench& w, const TableKind& kind) {
-  if (kind.code != kLunghettaCode || w.Fg00.dataRows() <= kMostLunghetta) return false;
+// False, with a message where the table holds too much, when there is nothing to verify.
+bool canBeVerified(Workbench& w, Table table) {
+  if (!w.formulas(table).hasData()) return false;
+  if (table != Table::Lunghetta || w.Fg00.dataRows() <= traitsOf(table).mostFormulas) return true;
   w.shell().message({.text = "Attenzione si possono elaborare al massimo 10 numeri. Rimuovere le formule in eccesso"});
-  return true;
+  return false;
 }
 
-// The common start: what kind runs, its counters, the numbers in play, an empty hit grid.
-void begin(Workbench& w, const TableKind& kind) {
-  w.TipoVerifica = kind.code;
-  w.EsitiPerSorte = {};
-  if (kind.code == kLunghettaCode) w.Sorte = w.ComboSorte.number();
-  RicavaElementiReali(w);
-  (w.*kind.hits).cutToHeading();
+// Verifies the table and leaves what every verification leaves: its kind, its counters, the numbers in play.
+Verification verifyTable(Workbench& w, Table table, const Scope& scope) {
+  const Method method = methodOf(w);
+  w.TipoVerifica = traitsOf(table).code;
+  if (table == Table::Lunghetta) w.Sorte = method.sorte;
+  Verification verified = verify(w.archive, method, table, caseDraws(w), scope, w.Formula);
+  w.EsitiPerSorte = verified.bySorte;
+  writeNumbersInPlay(w, verified.numbers);
+  return verified;
 }
 
-std::vector<int> sortedNumbers(const std::string& cell) {
-  std::vector<int> numbers;
-  for (int n : numbersEveryThree(cell))
-    if (n <= kMostNumber) numbers.push_back(n);
-  std::sort(numbers.begin(), numbers.end());
-  return numbers;
-}
-
-// Goes through the cases that `plays` lets through: hit rows, counters, marks. Returns the cases that were hit.
-CaseFlags playCases(Workbench& w, const TableKind& kind, const PlayWindow& window, bool marks,
-                    const std::function<bool(int caseRow)>& plays) {
-  Grid& target = w.*kind.hits;
-  const bool bySorte = kind.code == kLunghettaCode;
-  CaseFlags hit{};
-  for (int i = 1; i < w.FgEv.rows(); ++i) {
-    if (!plays(i)) continue;
-    const Hits hits = hitsOfCase(w, kind, i, window);
-    for (const Hit& h : hits) ++w.EsitiPerSorte[static_cast<std::size_t>(bySorte ? h.count : kind.code)];
-    appendHits(w, target, i, hits, RowColumn::RunningCount, bySorte ? HitColour::BySorte : HitColour::Green);
+void writeHits(Workbench& w, Table table, const Verification& verified, bool marks) {
+  Grid& target = w.hits(table);
+  const HitColour colour = table == Table::Lunghetta ? HitColour::BySorte : HitColour::Green;
+  target.cutToHeading();
+  for (std::size_t i = 0; i < verified.hits.size(); ++i) {
+    if (!verified.played[i]) continue;
+    const int row = static_cast<int>(i) + 1;
+    const Hits& hits = verified.hits[i];
+    appendHits(w, target, row, hits, RowColumn::RunningCount, colour);
     if (hits.empty())
-      appendMiss(w, target, i);
+      appendMiss(w, target, row);
     else if (marks)
-      markCovered(w, i, kind.markColumn, static_cast<int>(hits.size()));
-    hit[static_cast<std::size_t>(i)] = !hits.empty();
+      markCovered(w, row, traitsOf(table).markColumn, static_cast<int>(hits.size()));
   }
-  return hit;
 }
 
-void closeStatistics(Workbench& w, const TableKind& kind) {
-  scriveStatistica(w, w.*kind.hits, kind.section, w.FgSSS.text(1, kind.markColumn - case_column::kHits));
-  PopolaGrafico(w);
-}
-
-// The column and colours of a kind, then who is still open: what every verification of all rows ends with.
-void closeCases(Workbench& w, const TableKind& kind) {
+// The open cases marked in the list and among the hits; `CasiInCorso`.
+std::multiset<int> markOpen(Workbench& w, Table table) {
   markOpenCases(w);
-  countOpenCases(w, w.*kind.hits);
+  const std::multiset<int> open = openCases(w);
+  w.CasiInCorso = static_cast<int>(open.size());
+  markOpenRows(w.hits(table), open);
+  return open;
 }
 
-void verificaRiga(Workbench& w, const Grid& formulas, const std::function<void()>& evaluate) {
-  const int row = formulas.current();
-  if (row < 1) return;
-  const Grid::Batch hitsBatch(w.FgZ1), casesBatch(w.FgEv), wheelsBatch(w.FgRG);
-  if (w.Check3.checked()) {
-    for (int wheel = 0; wheel < kWheels; ++wheel) w.FgRG.setBack(0, wheel, kWhite);
-    const std::string& wheels = formulas.text(row, formula_column::kWheels);
-    for (std::size_t at = 0; at < wheels.size(); at += 3)
-      for (int wheel = 0; wheel < kWheels; ++wheel)
-        if (w.FgRG.text(0, wheel) == wheels.substr(at, 2)) w.FgRG.setBack(0, wheel, Verde);
-  }
-  RicavaRuoteGioco(w);
-  w.Sorte = w.ComboSorte.index() + 1;
+// The cases without hit that aren't open.
+int countMisses(const Verification& verified, const std::multiset<int>& open) {
+  int misses = 0;
+  for (std::size_t i = 0; i < verified.hits.size(); ++i)
+    if (verified.played[i] && verified.hits[i].empty() && !open.contains(static_cast<int>(i) + 1)) ++misses;
+  return misses;
+}
+
+std::vector<bool> excludedCases(const Workbench& w) {
+  std::vector<bool> excluded;
+  for (int row = 1; row < w.FgEv.rows(); ++row) excluded.push_back(w.CasiEsclusi[static_cast<std::size_t>(row)]);
+  return excluded;
+}
+
+// The wheels of play become those that the row brings.
+void playWheelsOfRow(Workbench& w, const FormulaRow& row) {
+  for (int wheel = 0; wheel < kWheels; ++wheel) w.FgRG.setBack(0, wheel, holds(row.wheels, wheel) ? Verde : kWhite);
+}
+
+void writeRowHits(Workbench& w, const RowVerification& verified) {
   w.FgZ1.cutToHeading();
-  caricaParametri(formulas, row, w.Formula);
-  const int column = case_column::kHits + w.Sorte - 1;
-  for (int i = 1; i < w.FgEv.rows(); ++i) {
-    w.Formula.Estr = caseDraw(w, i);
-    evaluate();
-    const int number = w.Formula.NumeroOttenuto;
-    NumberFlags inPlay{};
-    if (number >= 1 && number <= kMostNumber) inPlay[static_cast<std::size_t>(number)] = true;
-    const Hits hits = hitsOfNumbers(w.archive, w.Formula.Estr, playWindow(w), inPlay);
-    appendHits(w, w.FgZ1, i, hits, RowColumn::RunningCount, HitColour::Green);
-    if (hits.empty()) {
-      w.FgZ1.setNumber(appendMiss(w, w.FgZ1, i), hit_column::kNumbers, number);
-    } else {
-      markCovered(w, i, column, static_cast<int>(hits.size()));
-    }
+  for (std::size_t i = 0; i < verified.hits.size(); ++i) {
+    const int row = static_cast<int>(i) + 1;
+    const Hits& hits = verified.hits[i];
+    appendHits(w, w.FgZ1, row, hits, RowColumn::RunningCount, HitColour::Green);
+    if (hits.empty())
+      w.FgZ1.setNumber(appendMiss(w, w.FgZ1, row), hit_column::kNumbers, verified.numbers[i]);
+    else
+      markCovered(w, row, case_column::kHits + w.Sorte - 1, static_cast<int>(hits.size()));
   }
   coloraEsiti(w.FgZ1);
+}
+
+void verificaRiga(Workbench& w, const Grid& formulas,
+                  const std::function<void(const FormulaRow& row, ParametriFormula& p)>& evaluate) {
+  if (formulas.current() < 1) return;
+  const FormulaRow row = readFormula(formulas, formulas.current());
+  const Grid::Batch hitsBatch(w.FgZ1), casesBatch(w.FgEv), wheelsBatch(w.FgRG);
+  if (w.Check3.checked()) playWheelsOfRow(w, row);
+  RicavaRuoteGioco(w);
+  w.Sorte = w.ComboSorte.index() + 1;
+  caricaParametri(row, w.Formula);
+  writeRowHits(
+      w, verifyRow(w.archive, playWindow(w), caseDraws(w), w.Formula, [&](ParametriFormula& p) { evaluate(row, p); }));
   w.shell().status("Verifica riga selezionata: " + std::to_string(w.FgEv.dataRows()) + " casi");
 }
 
 }  // namespace
 
-const TableKind& tableKind(int code) {
-  static const std::array<TableKind, 4> kinds = {
-      {{1, "1N", &Workbench::Fg11, &Workbench::FgZ1, 17, {1}, false, false},
-       {2, "2N", &Workbench::Fg22, &Workbench::FgZ2, 18, {1, 2}, true, true},
-       {3, "3N", &Workbench::Fg33, &Workbench::FgZ3, 19, {1, 2, 3}, true, true},
-       {kLunghettaCode, "LU", &Workbench::Fg00, &Workbench::FgZ0, 22, {6}, false, true}}};
-  for (const TableKind& kind : kinds)
-    if (kind.code == code) return kind;
-  throw std::logic_error("no such kind of table");
-}
-
-Hits hitsOfCase(const Workbench& w, const TableKind& kind, int caseRow, const PlayWindow& window) {
-  const int draw = caseDraw(w, caseRow);
-  if (kind.code == 1) return hitsOfNumbers(w.archive, draw, window, w.NumeriInGioco[static_cast<std::size_t>(caseRow)]);
-  if (kind.code == kLunghettaCode) {
-    NumberFlags inPlay{};
-    for (int n : sortedNumbers(w.Fg15.text(caseRow, kind.numberColumns.front())))
-      inPlay[static_cast<std::size_t>(n)] = true;
-    return hitsOfAll(w.archive, draw, window, inPlay, w.Sorte);
-  }
-  std::vector<std::vector<int>> lists;
-  for (int column : kind.numberColumns) lists.push_back(sortedNumbers(w.Fg15.text(caseRow, column)));
-  return hitsOfSets(w.archive, draw, window, lists);
-}
-
-void verificaTutte(Workbench& w, const TableKind& kind) {
-  if (!(w.*kind.formulas).hasData() || tooManyForLunghetta(w, kind)) return;
-  const Grid::Batch hitsBatch(w.*kind.hits), casesBatch(w.FgEv);
-  begin(w, kind);
-  clearMarks(w, kind.markColumn);
-  playCases(w, kind, playWindow(w), true, [](int) { return true; });
-  // The lunghetta is coloured after its statistics, and elaborated before the panel is written.
-  if (kind.code != kLunghettaCode) coloraEsiti(w.*kind.hits);
-  closeCases(w, kind);
+void verificaTutte(Workbench& w, Table table) {
+  if (!canBeVerified(w, table)) return;
+  const TableTraits& traits = traitsOf(table);
+  const Grid::Batch hitsBatch(w.hits(table)), casesBatch(w.FgEv);
+  const Verification verified = verifyTable(w, table, {});
+  clearMarks(w, traits.markColumn);
+  writeHits(w, table, verified, true);
+  const std::multiset<int> open = markOpen(w, table);
+  coloraEsiti(w.hits(table));
   CreaStatistica(w);
   ContaEsitix(w);
-  if (kind.code == kLunghettaCode) {
-    coloraEsiti(w.*kind.hits);
-    Cmd_Elabora100(w);
-  }
-  closeStatistics(w, kind);
-  w.shell().status("Verifica tutte le righe: " + std::to_string(w.FgEv.dataRows()) + " casi, " + w.Fg_Stat.text(3, 1) +
-                   " esiti");
+  // The elaboration of the lunghetta counts anew what the panel then shows as covered.
+  if (table == Table::Lunghetta) Cmd_Elabora100(w);
+  scriveStatistica(w, traits.section, w.FgSSS.text(1, traits.markColumn - case_column::kHits), verified.totals.hits,
+                   countMisses(verified, open));
+  PopolaGrafico(w);
+  w.shell().status("Verifica tutte le righe: " + std::to_string(w.FgEv.dataRows()) + " casi, " +
+                   std::to_string(verified.totals.hits) + " esiti");
 }
 
-void verificaPerCc(Workbench& w, const TableKind& kind) {
-  if (!(w.*kind.formulas).hasData() || tooManyForLunghetta(w, kind)) return;
-  const Grid::Batch hitsBatch(w.*kind.hits), casesBatch(w.FgEv);
-  begin(w, kind);
-  clearMarks(w, kind.markColumn);
-  w.CasiVerificati =
-      playCases(w, kind, playWindow(w), true, [&w](int i) { return !w.CasiEsclusi[static_cast<std::size_t>(i)]; });
-  if (kind.code != kLunghettaCode) coloraEsiti(w.*kind.hits);
-  closeCases(w, kind);
+void verificaPerCc(Workbench& w, Table table) {
+  if (!canBeVerified(w, table)) return;
+  const Grid::Batch hitsBatch(w.hits(table)), casesBatch(w.FgEv);
+  const Verification verified = verifyTable(w, table, {.leftOut = excludedCases(w)});
+  w.CasiVerificati = {};
+  for (std::size_t i = 0; i < verified.hits.size(); ++i) w.CasiVerificati[i + 1] = verified.covered(i);
+  clearMarks(w, traitsOf(table).markColumn);
+  writeHits(w, table, verified, true);
+  markOpen(w, table);
+  coloraEsiti(w.hits(table));
   ContaEsitix(w);
-  if (kind.code == kLunghettaCode) {
-    coloraEsiti(w.*kind.hits);
-    Cmd_Elabora100(w);
-  }
+  if (table == Table::Lunghetta) Cmd_Elabora100(w);
 }
 
-void verificaOltreLimite(Workbench& w, const TableKind& kind) {
-  if (!(w.*kind.formulas).hasData() || tooManyForLunghetta(w, kind)) return;
-  const Grid::Batch hitsBatch(w.*kind.hits), casesBatch(w.FgEv);
-  begin(w, kind);
-  if (kind.clearsMarksBeyondLimit) clearMarks(w, kind.markColumn);
-  PlayWindow window = playWindow(w);
-  window.lastDraw = w.archive.UltimaEstrazione();
-  playCases(w, kind, window, kind.marksBeyondLimit,
-            [&w](int i) { return w.FgEv.back(i, case_column::kDraw) == Ciano; });
-  coloraEsiti(w.*kind.hits);
+void verificaOltreLimite(Workbench& w, Table table) {
+  if (!canBeVerified(w, table)) return;
+  const TableTraits& traits = traitsOf(table);
+  const Grid::Batch hitsBatch(w.hits(table)), casesBatch(w.FgEv);
+  Scope scope{.lastDraw = w.archive.UltimaEstrazione()};
+  for (int row = 1; row < w.FgEv.rows(); ++row) scope.leftOut.push_back(!isOpen(w, row));
+  const Verification verified = verifyTable(w, table, scope);
+  if (traits.clearsMarksBeyondLimit) clearMarks(w, traits.markColumn);
+  writeHits(w, table, verified, traits.marksBeyondLimit);
+  coloraEsiti(w.hits(table));
   markOpenCases(w);
   azzeraStatistiche(w);
-  w.shell().status("Verifica oltre limite: " + std::to_string((w.*kind.hits).dataRows()) + " righe");
+  w.shell().status("Verifica oltre limite: " + std::to_string(w.hits(table).dataRows()) + " righe");
 }
 
 void verificaRigaFormula(Workbench& w) {
-  verificaRiga(w, w.Fg11, [&w] { OttieneNumero(w.archive, w.Formula); });
+  verificaRiga(w, w.Fg11, [&w](const FormulaRow&, ParametriFormula& p) { OttieneNumero(w.archive, p); });
 }
 
 void verificaRigaRicerca(Workbench& w) {
-  verificaRiga(w, w.FgF, [&w] {
-    if (w.Formula.Nr == 0) return;  // a pure number can't be verified here
-    ParametriFormula& p = w.Formula;
-    const ParametriFormula loaded = p;
-    // Elements that the row doesn't have, as all of a blank row, are 0 here, not those of the row before.
-    if (w.FgF.text(w.FgF.current(), formula_column::kR2).empty()) p.R2 = p.P2 = 0;
-    if (w.FgF.text(w.FgF.current(), formula_column::kR3).empty()) p.R3 = p.P3 = 0;
-    // It knows four operators; a row with another keeps the value of the case before and adds its fix again.
-    if (operatorOf(p.Operazione) > Operator::Product) p.Operazione.clear();
-    OttieneNumero(w.archive, p);
-    p.Operazione = loaded.Operazione;
-    p.R2 = loaded.R2;
-    p.P2 = loaded.P2;
-    p.R3 = loaded.R3;
-    p.P3 = loaded.P3;
-  });
+  verificaRiga(w, w.FgF, [&w](const FormulaRow& row, ParametriFormula& p) { valutaRigaRicerca(w.archive, row, p); });
 }
 
 }  // namespace trv5

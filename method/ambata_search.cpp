@@ -18,18 +18,18 @@ NumberFlags fixesOf(const AmbataRequest& request) {
 // be put together. After the votes have been made of it, number 0 stands for 90 too.
 class DrawnAfterCases {
  public:
-  explicit DrawnAfterCases(const AmbataRequest& request)
+  DrawnAfterCases(const AmbataRequest& request, const Outcomes& outcomes)
       : m_wheelByWheel(request.wheelSets.size() > 1), m_drawn(request.cases.size() * (m_wheelByWheel ? kWheels : 1)) {
     WheelSet wanted = 0;
     for (const WheelSet set : request.wheelSets) wanted |= set;
     for (std::size_t i = 0; i < request.cases.size(); ++i) {
       const ColpiWindow window = windowAfter(request.cases[i], request.colpi, request.lastDraw);
       if (!m_wheelByWheel) {
-        addDrawn(*request.archive, window, wanted, m_drawn[i]);
+        addDrawn(outcomes, window, wanted, m_drawn[i]);
         continue;
       }
       for (int w = 0; w < kWheels; ++w)
-        if (holds(wanted, w)) addDrawn(*request.archive, window, 1U << w, wheel(i, w));
+        if (holds(wanted, w)) addDrawn(outcomes, window, 1U << w, wheel(i, w));
     }
   }
 
@@ -89,32 +89,40 @@ class DrawnAfterCases {
 
 }  // namespace
 
-std::vector<Candidate> searchAmbate(const AmbataRequest& request) {
-  if (request.keep < 1 || request.wheelSets.empty()) return {};
-  const FormulaInput& formula = request.formula;
-  DrawnAfterCases drawn(request);
-  const VoteRings rings = drawn.votes(request.wheelSets);
-  std::vector<int> draws;
-  for (const int index : rings.cases()) draws.push_back(request.cases[static_cast<std::size_t>(index)]);
-  const FormulaValues values(*request.archive, formula, draws,
-                             elementSets(formula.shape, SetOrder::WheelsFirst, formula.triples));
-  Ranking ranking(request.keep);
-  rankVotes(rings, values, fixesOf(request), ranking);
+AmbataSearch::AmbataSearch(const AmbataRequest& request)
+    : m_request(request),
+      m_values(std::make_unique<const FormulaValues>(
+          *request.archive, request.formula, request.cases,
+          elementSets(request.formula.shape, SetOrder::WheelsFirst, request.formula.triples))) {}
+
+AmbataSearch::~AmbataSearch() = default;
+
+std::vector<Candidate> AmbataSearch::run(const Outcomes& outcomes) const {
+  if (m_request.keep < 1 || m_request.wheelSets.empty()) return {};
+  DrawnAfterCases drawn(m_request, outcomes);
+  const VoteRings rings = drawn.votes(m_request.wheelSets);
+  const FormulaValues values = m_values->of(rings.cases());
+  Ranking ranking(m_request.keep);
+  rankVotes(rings, values, fixesOf(m_request), ranking);
 
   std::vector<Candidate> candidates;
   std::vector<std::uint8_t> residues(values.rowLength());
   for (const Ranking::Row& found : ranking.rows()) {
     const auto set = static_cast<std::size_t>(found.set);
     Candidate candidate{values.set(set), found.fix, found.count, 0, found.wheelSet};
-    if (request.repeatsAtZeroGetLost && found.fix == 90) {
+    if (m_request.repeatsAtZeroGetLost && found.fix == 90) {
       candidate.pres = found.count;
     } else {
       values.numbers(set, found.fix, residues.data());
-      candidate.pres = drawn.presences(rings, residues, request.wheelSets[static_cast<std::size_t>(found.wheelSet)]);
+      candidate.pres = drawn.presences(rings, residues, m_request.wheelSets[static_cast<std::size_t>(found.wheelSet)]);
     }
     candidates.push_back(candidate);
   }
   return candidates;
+}
+
+std::vector<Candidate> searchAmbate(const AmbataRequest& request) {
+  return AmbataSearch(request).run(*request.archive);
 }
 
 }  // namespace trv5

@@ -4,14 +4,14 @@
 
 namespace trv5 {
 
-CompanionCounts companionsOfSets(const Archive& archive, int caseDraw, const PlayWindow& window,
-                                 const std::vector<std::vector<int>>& lists) {
+CompanionCounts companionsOfSets(const Outcomes& outcomes, int caseDraw, const PlayWindow& window,
+                                 std::span<const NumberList> lists) {
   CompanionCounts counts;
   const int last = std::min(caseDraw + window.colpi, window.lastDraw);
   for (int draw = caseDraw + 1; draw <= last; ++draw) {
     for (int wheel = 0; wheel < kWheels; ++wheel) {
       if (!holds(window.wheels, wheel)) continue;
-      const std::uint8_t* const drawn = archive.wheelOf(draw, wheel);
+      const std::uint8_t* const drawn = outcomes.wheelOf(draw, wheel);
       const auto stands = [&](int n) {
         return n != 0 && std::find(drawn, drawn + kPositions, n) != drawn + kPositions;
       };
@@ -19,13 +19,13 @@ CompanionCounts companionsOfSets(const Archive& archive, int caseDraw, const Pla
         for (int k = 0; k < kPositions; ++k)
           if (drawn[k] != 0 && drawn[k] != a && drawn[k] != b) ++counts.with[drawn[k]];
       };
-      for (int a : lists.front()) {
+      for (const int a : lists.front()) {
         if (!stands(a)) continue;
         if (lists.size() == 1) {
           countOthers(a, a);
           continue;
         }
-        for (int b : lists.back())
+        for (const int b : lists.back())
           if (a != b && stands(b)) countOthers(a, b);
       }
     }
@@ -33,14 +33,14 @@ CompanionCounts companionsOfSets(const Archive& archive, int caseDraw, const Pla
   return counts;
 }
 
-CompanionCounts companionsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window,
+CompanionCounts companionsOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window,
                                 const NumberFlags& inPlay, int wanted) {
   CompanionCounts counts;
   const int last = std::min(caseDraw + window.colpi, window.lastDraw);
   for (int draw = caseDraw + 1; draw <= last; ++draw) {
     for (int wheel = 0; wheel < kWheels; ++wheel) {
       if (!holds(window.wheels, wheel)) continue;
-      const std::uint8_t* const drawn = archive.wheelOf(draw, wheel);
+      const std::uint8_t* const drawn = outcomes.wheelOf(draw, wheel);
       int played = 0;
       for (int k = 0; k < kPositions; ++k)
         if (drawn[k] != 0 && inPlay[drawn[k]]) ++played;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <vector>
+#include <span>
 
 #include "method/hits.h"
 
@@ -17,11 +17,11 @@ struct CompanionCounts {
 
 /// Hits of the ambi (one list of numbers) or terni (two lists) that a further number completes: each set of one number
 /// of each list and the further one counts for itself. Exact as long as no wheel holds a number twice.
-CompanionCounts companionsOfSets(const Archive& archive, int caseDraw, const PlayWindow& window,
-                                 const std::vector<std::vector<int>>& lists);
+CompanionCounts companionsOfSets(const Outcomes& outcomes, int caseDraw, const PlayWindow& window,
+                                 std::span<const NumberList> lists);
 
 /// Hits of a lunghetta of these numbers and a further one, `wanted` numbers on a wheel.
-CompanionCounts companionsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window,
+CompanionCounts companionsOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window,
                                 const NumberFlags& inPlay, int wanted);
 
 }  // namespace trv5

@@ -20,7 +20,10 @@ int insideArchive(int draw) {
 class CompanionCount {
  public:
   explicit CompanionCount(const CompanionRequest& request)
-      : m_request(request), m_place(Archive::kMaxDraws + 1, -1), m_used(Archive::kMaxDraws + 1) {}
+      : m_request(request),
+        m_outcomes(*request.archive),
+        m_place(Archive::kMaxDraws + 1, -1),
+        m_used(Archive::kMaxDraws + 1) {}
 
   CompanionVotes votes() {
     for (const CompanionRow& row : m_request.rows) add(row);
@@ -37,7 +40,7 @@ class CompanionCount {
       if (n >= 0 && n <= 90) present[static_cast<std::size_t>(n)] = true;
     for (int w = 0; w < kWheels; ++w) {
       if (!holds(m_request.wheels, w)) continue;
-      const std::uint8_t* numbers = m_request.archive->wheelOf(hitDraw, w);
+      const std::uint8_t* numbers = m_outcomes.wheelOf(hitDraw, w);
       const auto inPlay = std::count_if(numbers, numbers + kPositions, [&](std::uint8_t n) { return present[n]; });
       if (inPlay < m_request.least || inPlay > m_request.most) continue;
       m_used[static_cast<std::size_t>(hitDraw)] = true;
@@ -64,6 +67,7 @@ class CompanionCount {
   }
 
   const CompanionRequest& m_request;
+  Outcomes m_outcomes;
   CompanionVotes m_votes;
   std::vector<int> m_place;  // by draw of the case, -1 for none yet
   std::vector<bool> m_used;  // EstrazioneUsata, by draw of the hit

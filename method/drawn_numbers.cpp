@@ -17,10 +17,10 @@ ColpiWindow windowAfter(int caseDraw, int colpi, int lastDraw) {
   return {std::max(caseDraw, 0) + 1, std::min({caseDraw + colpi, lastDraw, Archive::kMaxDraws})};
 }
 
-void addDrawn(const Archive& archive, const ColpiWindow& window, WheelSet wheels, DrawnNumbers& drawn) {
+void addDrawn(const Outcomes& outcomes, const ColpiWindow& window, WheelSet wheels, DrawnNumbers& drawn) {
   const int draws = window.last - window.first + 1;
   if (draws <= 0) return;
-  const std::uint8_t* first = archive.wheelOf(window.first, 0);
+  const std::uint8_t* first = outcomes.wheelOf(window.first, 0);
   // The wheels of a draw lie in one piece, and so do the draws.
   if ((wheels & kEveryWheel) == kEveryWheel) {
     addNumbers(first, draws * Archive::kDrawBytes, drawn);

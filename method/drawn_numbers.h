@@ -5,6 +5,7 @@
 
 #include "core/archive.h"
 #include "core/wheels.h"
+#include "method/outcomes.h"
 
 namespace trv5 {
 
@@ -20,6 +21,6 @@ struct ColpiWindow {
 ColpiWindow windowAfter(int caseDraw, int colpi, int lastDraw);
 
 /// Adds the numbers of the wheels in the draws of a window.
-void addDrawn(const Archive& archive, const ColpiWindow& window, WheelSet wheels, DrawnNumbers& drawn);
+void addDrawn(const Outcomes& outcomes, const ColpiWindow& window, WheelSet wheels, DrawnNumbers& drawn);
 
 }  // namespace trv5

@@ -27,27 +27,55 @@ ElementTable partTable(const FormulaInput& formula, int element) {
   return part;
 }
 
+std::size_t rowLengthOf(std::size_t cases) {
+  return (cases + FormulaValues::kStep - 1) / FormulaValues::kStep * FormulaValues::kStep;
+}
+
 }  // namespace
 
 FormulaValues::FormulaValues(const Archive& archive, const FormulaInput& formula, const std::vector<int>& draws,
                              std::vector<ElementSet> sets)
-    : m_sets(std::move(sets)), m_rowLength((draws.size() + kStep - 1) / kStep * kStep) {
+    : m_sets(std::make_shared<const std::vector<ElementSet>>(std::move(sets))),
+      m_cases(draws.size()),
+      m_rowLength(rowLengthOf(draws.size())) {
   if (formula.shape == Shape::ThreeOneWheel)
     m_kind = Kind::SumOfThree;
   else if (formula.shape != Shape::OneNumber)
     m_kind = formula.op == Operator::Product ? Kind::Product : Kind::Sum;
 
   const int elements = elementsOf(formula.shape);
-  m_parts.resize(static_cast<std::size_t>(elements * Archive::kDrawBytes) * m_rowLength);
+  std::vector<std::uint8_t> parts(static_cast<std::size_t>(elements * Archive::kDrawBytes) * m_rowLength);
   for (int element = 0; element < elements; ++element) {
     const ElementTable part = partTable(formula, element);
     for (std::size_t i = 0; i < draws.size(); ++i) {
       const bool inside = draws[i] >= 0 && draws[i] <= Archive::kMaxDraws;
       const std::uint8_t* numbers = archive.wheelOf(inside ? draws[i] : 0, 0);
-      std::uint8_t* out = &m_parts[static_cast<std::size_t>(element * Archive::kDrawBytes) * m_rowLength + i];
+      std::uint8_t* out = &parts[static_cast<std::size_t>(element * Archive::kDrawBytes) * m_rowLength + i];
       for (int drawn = 0; drawn < Archive::kDrawBytes; ++drawn, out += m_rowLength) *out = part[numbers[drawn]];
     }
   }
+  keep(std::move(parts));
+}
+
+void FormulaValues::keep(std::vector<std::uint8_t> parts) {
+  m_parts = std::make_shared<const std::vector<std::uint8_t>>(std::move(parts));
+  m_rows = m_parts->data();
+}
+
+FormulaValues FormulaValues::of(const std::vector<int>& cases) const {
+  bool all = cases.size() == m_cases;
+  for (std::size_t i = 0; all && i < cases.size(); ++i) all = cases[i] == static_cast<int>(i);
+  FormulaValues some = *this;
+  if (all) return some;
+  some.m_cases = cases.size();
+  some.m_rowLength = rowLengthOf(cases.size());
+  const std::size_t rows = m_rowLength == 0 ? 0 : m_parts->size() / m_rowLength;
+  std::vector<std::uint8_t> parts(rows * some.m_rowLength);
+  for (std::size_t row = 0; row < rows; ++row)
+    for (std::size_t i = 0; i < cases.size(); ++i)
+      parts[row * some.m_rowLength + i] = m_rows[row * m_rowLength + static_cast<std::size_t>(cases[i])];
+  some.keep(std::move(parts));
+  return some;
 }
 
 }  // namespace trv5

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "method/search.h"
@@ -22,14 +23,18 @@ class FormulaValues {
   FormulaValues(const Archive& archive, const FormulaInput& formula, const std::vector<int>& draws,
                 std::vector<ElementSet> sets);
 
-  std::size_t sets() const { return m_sets.size(); }
-  const ElementSet& set(std::size_t index) const { return m_sets[index]; }
+  /// The values in some of the cases, by their places in `draws`, in this order: what has been worked out serves any
+  /// choice of cases. All of them in their order cost nothing.
+  FormulaValues of(const std::vector<int>& cases) const;
+
+  std::size_t sets() const { return m_sets->size(); }
+  const ElementSet& set(std::size_t index) const { return (*m_sets)[index]; }
   std::size_t rowLength() const { return m_rowLength; }
 
   /// The raw values, 0..89, of an element set in all cases: rowLength() bytes, those behind the last case 0 to 89 too.
   /// Inlined into the loops of the vote counter, so that they are compiled for the processor they run on.
   [[gnu::always_inline]] void values(std::size_t index, std::uint8_t* out) const {
-    const ElementSet& set = m_sets[index];
+    const ElementSet& set = (*m_sets)[index];
     const std::uint8_t* a = part(0, set);
     switch (m_kind) {
       case Kind::One:
@@ -62,7 +67,7 @@ class FormulaValues {
 
   const std::uint8_t* part(std::size_t element, const ElementSet& set) const {
     const std::size_t drawn = set.wheels[element] * std::size_t{kPositions} + set.positions[element] - 1U;
-    return &m_parts[(element * Archive::kDrawBytes + drawn) * m_rowLength];
+    return m_rows + (element * Archive::kDrawBytes + drawn) * m_rowLength;
   }
 
   // Two parts below 90 make a sum that fits a byte; less 90 it wraps around to something greater where it was below.
@@ -87,9 +92,12 @@ class FormulaValues {
   }
 
   Kind m_kind = Kind::One;
-  std::vector<ElementSet> m_sets;
-  std::size_t m_rowLength = 0;
-  std::vector<std::uint8_t> m_parts;  // by element, drawn number 0..54 (wheel by wheel), case
+  void keep(std::vector<std::uint8_t> parts);
+
+  std::shared_ptr<const std::vector<ElementSet>> m_sets;
+  std::size_t m_cases = 0, m_rowLength = 0;
+  std::shared_ptr<const std::vector<std::uint8_t>> m_parts;  // by element, drawn number 0..54 (wheel by wheel), case
+  const std::uint8_t* m_rows = nullptr;                      // the same, for the loops
 };
 
 }  // namespace trv5

@@ -6,11 +6,11 @@ namespace trv5 {
 namespace {
 
 template <class Visit>
-void forEachWheel(const Archive& archive, int caseDraw, const PlayWindow& window, Visit visit) {
+void forEachWheel(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, Visit visit) {
   const int last = std::min(caseDraw + window.colpi, window.lastDraw);
   for (int draw = caseDraw + 1; draw <= last; ++draw)
     for (int wheel = 0; wheel < kWheels; ++wheel)
-      if (holds(window.wheels, wheel)) visit(draw, wheel, archive.wheelOf(draw, wheel));
+      if (holds(window.wheels, wheel)) visit(draw, wheel, outcomes.wheelOf(draw, wheel));
 }
 
 // Positions (bits) of the drawn numbers in play.
@@ -27,8 +27,8 @@ int quantity(unsigned matched) {
 
 class SetPlayer {
  public:
-  SetPlayer(const Archive& archive, int caseDraw, const PlayWindow& window, const std::vector<std::vector<int>>& lists)
-      : m_archive(archive), m_case(caseDraw), m_window(window), m_lists(lists) {}
+  SetPlayer(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, std::span<const NumberList> lists)
+      : m_outcomes(outcomes), m_case(caseDraw), m_window(window), m_lists(lists) {}
 
   Hits run() {
     choose(0);
@@ -38,8 +38,8 @@ class SetPlayer {
  private:
   void choose(std::size_t depth) {
     if (depth == m_lists.size()) return play();
-    for (int n : m_lists[depth]) {
-      m_set[depth] = static_cast<std::uint8_t>(n);
+    for (const std::uint8_t n : m_lists[depth]) {
+      m_set[depth] = n;
       choose(depth + 1);
     }
   }
@@ -48,7 +48,7 @@ class SetPlayer {
     NumberFlags inSet{};
     for (std::size_t i = 0; i < m_lists.size(); ++i) inSet[m_set[i]] = true;
     int hitsOfSet = 0;
-    forEachWheel(m_archive, m_case, m_window, [&](int draw, int wheel, const std::uint8_t* drawn) {
+    forEachWheel(m_outcomes, m_case, m_window, [&](int draw, int wheel, const std::uint8_t* drawn) {
       const unsigned matched = matchedPositions(drawn, inSet);
       if (quantity(matched) < static_cast<int>(m_lists.size())) return;
       const int size = static_cast<int>(m_lists.size());
@@ -56,33 +56,33 @@ class SetPlayer {
     });
   }
 
-  const Archive& m_archive;
+  Outcomes m_outcomes;
   int m_case;
   const PlayWindow& m_window;
-  const std::vector<std::vector<int>>& m_lists;
+  std::span<const NumberList> m_lists;
   std::array<std::uint8_t, 5> m_set{};
   Hits m_hits;
 };
 
 }  // namespace
 
-Hits hitsOfNumbers(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay) {
+Hits hitsOfNumbers(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay) {
   Hits hits;
-  forEachWheel(archive, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
+  forEachWheel(outcomes, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
     for (unsigned k = 0; k < kPositions; ++k)
       if (drawn[k] != 0 && inPlay[drawn[k]]) hits.push_back({draw, wheel, {drawn[k]}, 1, 1U << k, 1, !hits.empty()});
   });
   return hits;
 }
 
-Hits hitsOfSets(const Archive& archive, int caseDraw, const PlayWindow& window,
-                const std::vector<std::vector<int>>& lists) {
-  return SetPlayer(archive, caseDraw, window, lists).run();
+Hits hitsOfSets(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, std::span<const NumberList> lists) {
+  return SetPlayer(outcomes, caseDraw, window, lists).run();
 }
 
-Hits hitsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay, int wanted) {
+Hits hitsOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay,
+               int wanted) {
   Hits hits;
-  forEachWheel(archive, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
+  forEachWheel(outcomes, caseDraw, window, [&](int draw, int wheel, const std::uint8_t* drawn) {
     const unsigned matched = matchedPositions(drawn, inPlay);
     if (matched == 0 || quantity(matched) < wanted) return;
     Hit hit{draw, wheel, {}, 0, matched, quantity(matched), !hits.empty()};
@@ -93,11 +93,11 @@ Hits hitsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window, c
   return hits;
 }
 
-int matchesOnLastWheel(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay) {
+int matchesOnLastWheel(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay) {
   const int last = std::min(caseDraw + window.colpi, window.lastDraw);
   if (last <= caseDraw) return 0;
   for (int wheel = kWheels - 1; wheel >= 0; --wheel)
-    if (holds(window.wheels, wheel)) return quantity(matchedPositions(archive.wheelOf(last, wheel), inPlay));
+    if (holds(window.wheels, wheel)) return quantity(matchedPositions(outcomes.wheelOf(last, wheel), inPlay));
   return 0;
 }
 

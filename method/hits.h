@@ -2,10 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
-#include "core/archive.h"
+#include "core/wheels.h"
 #include "method/flags.h"
+#include "method/numbers_in_play.h"
+#include "method/outcomes.h"
 
 namespace trv5 {
 
@@ -31,17 +34,16 @@ struct Hit {
 using Hits = std::vector<Hit>;
 
 /// Ambate: each drawing of each number in play is a hit of its own. Order: draw, wheel, position.
-Hits hitsOfNumbers(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
+Hits hitsOfNumbers(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
 
 /// Ambi, terni: for each set made of one number of each list, the wheels that hold at least as many drawn numbers of
 /// the set as there are lists. Order: the sets as the lists enumerate them (first list outermost), draw, wheel.
-Hits hitsOfSets(const Archive& archive, int caseDraw, const PlayWindow& window,
-                const std::vector<std::vector<int>>& lists);
+Hits hitsOfSets(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, std::span<const NumberList> lists);
 
 /// Lunghetta: the wheels that hold at least `wanted` of the numbers in play. Order: draw, wheel.
-Hits hitsOfAll(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay, int wanted);
+Hits hitsOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay, int wanted);
 
 /// How many numbers in play stand on the last wheel of play of the last draw that counts; 0 when none counts.
-int matchesOnLastWheel(const Archive& archive, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
+int matchesOnLastWheel(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
 
 }  // namespace trv5

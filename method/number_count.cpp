@@ -17,19 +17,19 @@ void addCase(const DrawnNumbers& drawn, NumberCounts& counts) {
 
 }  // namespace
 
-std::vector<NumberCounts> countNumbers(const Archive& archive, const std::vector<int>& cases, int colpi, int lastDraw,
+std::vector<NumberCounts> countNumbers(const Outcomes& outcomes, const std::vector<int>& cases, int colpi, int lastDraw,
                                        const std::vector<WheelSet>& wheelSets) {
   std::vector<NumberCounts> counts(wheelSets.size());
   for (const int caseDraw : cases) {
     const ColpiWindow window = windowAfter(caseDraw, colpi, lastDraw);
     if (wheelSets.size() == 1) {
       DrawnNumbers drawn{};
-      addDrawn(archive, window, wheelSets.front(), drawn);
+      addDrawn(outcomes, window, wheelSets.front(), drawn);
       addCase(drawn, counts.front());
       continue;
     }
     std::array<DrawnNumbers, kWheels> byWheel{};
-    for (int w = 0; w < kWheels; ++w) addDrawn(archive, window, 1U << w, byWheel[static_cast<std::size_t>(w)]);
+    for (int w = 0; w < kWheels; ++w) addDrawn(outcomes, window, 1U << w, byWheel[static_cast<std::size_t>(w)]);
     for (std::size_t s = 0; s < wheelSets.size(); ++s) {
       DrawnNumbers drawn{};
       for (int w = 0; w < kWheels; ++w)
@@ -41,11 +41,11 @@ std::vector<NumberCounts> countNumbers(const Archive& archive, const std::vector
   return counts;
 }
 
-NumberCounts countNumbersAtHits(const Archive& archive, const std::vector<PureNumberRow>& rows, WheelSet wheels) {
+NumberCounts countNumbersAtHits(const Outcomes& outcomes, const std::vector<PureNumberRow>& rows, WheelSet wheels) {
   std::map<int, DrawnNumbers> drawnInCase;
   for (const PureNumberRow& row : rows) {
     DrawnNumbers drawn{};
-    addDrawn(archive, {row.hitDraw, row.hitDraw}, wheels, drawn);
+    addDrawn(outcomes, {row.hitDraw, row.hitDraw}, wheels, drawn);
     for (const int n : row.numbers)
       if (n >= 0 && n <= 90) drawn[static_cast<std::size_t>(n)] = 0;
     DrawnNumbers& inCase = drawnInCase[row.caseRow];

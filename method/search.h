@@ -2,12 +2,14 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "core/archive.h"
 #include "core/wheels.h"
 #include "method/flags.h"
 #include "method/formula.h"
+#include "method/outcomes.h"
 
 namespace trv5 {
 
@@ -74,6 +76,23 @@ struct AmbataRequest {
   bool repeatsAtZeroGetLost = false;
 };
 
+class FormulaValues;
+
+/// A search of ambate whose element sets have been evaluated in all cases, to be run on any outcomes as often as
+/// wanted.
+class AmbataSearch {
+ public:
+  explicit AmbataSearch(const AmbataRequest& request);
+  ~AmbataSearch();
+
+  /// The ranking of searchAmbate on these outcomes.
+  std::vector<Candidate> run(const Outcomes& outcomes) const;
+
+ private:
+  AmbataRequest m_request;
+  std::unique_ptr<const FormulaValues> m_values;
+};
+
 /// The best formulas: those with the highest CC, and among equals the first by wheel set, fix and element set; that is
 /// what is left when each formula in this order, compared with the last row of the ranking, takes its place if it
 /// covers more cases, and the ranking is then sorted. No formula without a covered case.
@@ -116,7 +135,7 @@ struct NumberCount {
 using NumberCounts = std::array<NumberCount, 91>;
 
 /// The pure numbers: how the numbers were drawn in the colpi after the cases, for each wheel set.
-std::vector<NumberCounts> countNumbers(const Archive& archive, const std::vector<int>& cases, int colpi, int lastDraw,
+std::vector<NumberCounts> countNumbers(const Outcomes& outcomes, const std::vector<int>& cases, int colpi, int lastDraw,
                                        const std::vector<WheelSet>& wheelSets);
 
 /// A hit that pure numbers are counted from.
@@ -127,6 +146,6 @@ struct PureNumberRow {
 };
 
 /// The numbers drawn in the draws of the hits on any of the wheels.
-NumberCounts countNumbersAtHits(const Archive& archive, const std::vector<PureNumberRow>& rows, WheelSet wheels);
+NumberCounts countNumbersAtHits(const Outcomes& outcomes, const std::vector<PureNumberRow>& rows, WheelSet wheels);
 
 }  // namespace trv5

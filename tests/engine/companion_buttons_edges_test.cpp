@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "cases/hit_rows.h"
 #include "core/text.h"
 #include "engine/companion_buttons.h"
-#include "engine/hit_rows.h"
 #include "support/workbench_world.h"
 
 namespace trv5 {

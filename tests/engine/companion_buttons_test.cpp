@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <string>
 
+#include "cases/hit_rows.h"
 #include "core/numbers.h"
-#include "engine/candidate_check.h"
 #include "engine/colouring.h"
-#include "engine/hit_rows.h"
 #include "engine/lunghetta.h"
 #include "engine/verified_method.h"
 #include "method/formula.h"
+#include "support/full_candidate_check.h"
 #include "support/plain_search.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
@@ -54,10 +54,11 @@ PlainFormula plainFormula(const Workbench& w, Shape shape) {
 
 // The search as its steps tell it, on grids.
 void plainSearch(Workbench& w, const CompanionButton& b) {
-  const Rules rules = rulesOf(b.sorte);
+  const int sorte = traitsOf(b.table).code;
+  const Rules rules = rulesOf(sorte);
   const Grid& hits = w.*rules.hits;
-  if (b.sorte != 6 && hits.rows() < 2) return;
-  if (b.sorte == 6) w.Sorte = w.ComboSorte.index() + 1;
+  if (sorte != 6 && hits.rows() < 2) return;
+  if (sorte == 6) w.Sorte = w.ComboSorte.index() + 1;
   w.Elenco = w.ComboEle.number();
   w.Colpi = w.ComboColpi.number();
   SettaggioFix(w);
@@ -65,15 +66,15 @@ void plainSearch(Workbench& w, const CompanionButton& b) {
   const bool fourOnly = std::string("Command37 Command31 Command45 Command57").find(b.name) != std::string::npos;
   if (b.shape != Shape::OneNumber && (op < 4 || !fourOnly))
     w.OperazioneCorrente = kOperators[static_cast<std::size_t>(op)];
-  if (b.sorte == 6) PreparaPerScoperti(w);
+  if (sorte == 6) PreparaPerScoperti(w);
 
   CompanionRequest request;
   request.archive = &w.archive;
   for (int r = 1; r < hits.rows(); ++r) {
     const int i = hits.number(r, 0);
     if (w.Ch_Scoperti.checked()) {
-      if (b.sorte == 6 ? !w.CasiQuasi[static_cast<std::size_t>(i)]
-                       : i < w.FgEv.rows() && w.FgEv.back(i, rules.covered) == 0x00FF00)
+      if (sorte == 6 ? !w.CasiQuasi[static_cast<std::size_t>(i)]
+                     : i < w.FgEv.rows() && w.FgEv.back(i, rules.covered) == 0x00FF00)
         continue;
     }
     if (hits.number(r, 15) <= 0) continue;
@@ -83,9 +84,9 @@ void plainSearch(Workbench& w, const CompanionButton& b) {
     request.rows.push_back(row);
   }
   request.wheels = w.RuoteGioco;
-  request.least = b.sorte == 3 ? 2 : b.sorte == 6 ? std::max(1, w.Sorte - 1) : 1;
-  request.most = b.sorte == 3 ? 2 : 5;
-  request.guarded = b.sorte == 3 && b.shape != Shape::OneNumber;
+  request.least = sorte == 3 ? 2 : sorte == 6 ? std::max(1, w.Sorte - 1) : 1;
+  request.most = sorte == 3 ? 2 : 5;
+  request.guarded = sorte == 3 && b.shape != Shape::OneNumber;
   request.allowedFix = w.FixAmmessi;
   request.withFix = w.ChFix1R.checked();
   request.keep = w.Elenco;
@@ -115,7 +116,7 @@ void plainSearch(Workbench& w, const CompanionButton& b) {
     w.FgF.setText(row, 15, b.shape == Shape::OneNumber ? "1" : b.shape == Shape::ThreeOneWheel ? "3" : "2");
     if (writesOperator) w.FgF.setText(row, 10, w.OperazioneCorrente);
   }
-  VerificaCandidatiPerEsteso(w, b.sorte);
+  fullCandidateCheck(w, b.table);
   w.FgF.sortByNumber(13, true);
   ColoraFgF(w);
   w.List1.add("10:30:15");

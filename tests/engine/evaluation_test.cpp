@@ -187,11 +187,11 @@ TEST(OttieneNumero, CountsNumbersAbove90AsNotDrawn) {
   EXPECT_EQ(resultOf(archiveWith(95, 3), twoElements("N1 + N2")), 3);
 }
 
-void loadInto(ParametriFormula& p, const FormulaRow& row) {
+void loadInto(ParametriFormula& p, const FormulaCells& row) {
   Grid table("|1|R1|P1|2|R2|P2|3|R3|P3|Operazione|Fix|Pres|CC  |Nr|Qn|Formu|Alteraz|Ruota|Ruote|Ritardo|Sorte");
   WorkbenchWorld::addFormula(table, row);
   ParametriFormula plain = p;
-  caricaParametri(table, 1, p);
+  caricaParametri(readFormula(table, 1), p);
   plainCaricaParametri(table, 1, plain);
   EXPECT_STREQ(differentField(p, plain), "");
 }

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "engine/hit_rows.h"
+#include "cases/hit_rows.h"
 #include "engine/result_forms.h"
 #include "support/workbench_world.h"
 

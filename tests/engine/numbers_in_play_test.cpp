@@ -11,7 +11,7 @@
 namespace trv5 {
 namespace {
 
-FormulaRow pureNumber(int number) {
+FormulaCells pureNumber(int number) {
   return {.fix = number, .nr = "0"};
 }
 

@@ -7,13 +7,13 @@
 #include <set>
 #include <string>
 
+#include "cases/hit_rows.h"
 #include "core/text.h"
-#include "engine/candidate_check.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
-#include "engine/hit_rows.h"
 #include "engine/lunghetta.h"
 #include "engine/verified_method.h"
+#include "support/full_candidate_check.h"
 #include "support/plain_search.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
@@ -117,7 +117,7 @@ void plainCompanions(Workbench& w, int sorte) {
     w.FgF.setText(row, 14, "0");
     w.FgF.setText(row, 15, "0");
   }
-  VerificaCandidatiPerEsteso(w, sorte);
+  fullCandidateCheck(w, *tableOfCode(sorte));
   w.FgF.sortByNumber(13, true);
   ColoraFgF(w);
   w.List1.add(kNow);

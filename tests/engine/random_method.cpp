@@ -45,7 +45,7 @@ Archive randomMethodArchive(std::mt19937& rng) {
 void fillTable(Grid& table, std::mt19937& rng, int rows, bool blanks) {
   table.cutToHeading();
   for (int i = 0; i < rows; ++i) {
-    FormulaRow formula = trv5::randomFormula(rng);
+    FormulaCells formula = trv5::randomFormula(rng);
     if (formula.nr == "0" && below(rng, 6) == 0) formula.fix = 0;
     if (below(rng, 3) == 0) formula.wheels = kWheelTexts[static_cast<std::size_t>(below(rng, kWheelTexts.size()))];
     if (blanks && below(rng, 5) == 0) {

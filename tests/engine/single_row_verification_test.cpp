@@ -201,7 +201,7 @@ TEST(VerificaRigaRicerca, KnowsTheOperatorsOfDigitsNoMoreThanBeforeUnlikeTheTabl
   Workbench& w = world.w;
   world.playOn({0, 7});
   world.setCases({1}, 1);
-  const FormulaRow row{.elements = {{0, 1}, {0, 2}}, .op = "D1 e U2", .qn = "2"};
+  const FormulaCells row{.elements = {{0, 1}, {0, 2}}, .op = "D1 e U2", .qn = "2"};
   WorkbenchWorld::addFormula(w.FgF, row);
   WorkbenchWorld::addFormula(w.Fg11, row);
   w.FgF.setCurrent(1);

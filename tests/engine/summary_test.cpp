@@ -5,7 +5,7 @@
 #include <array>
 #include <string>
 
-#include "engine/hit_rows.h"
+#include "cases/hit_rows.h"
 #include "engine/statistics.h"
 #include "engine/verified_method.h"
 #include "support/random_runs.h"
@@ -255,12 +255,19 @@ TEST_F(SummaryOfTwoCases, WithoutCasesShowsNoPercentAndNoMessage) {
 }
 
 TEST_F(SummaryOfTwoCases, EndsWithItsMessageWhereAGridHoldsACaseThatCanNotBe) {
+  hit(w.FgZ1, 1, 3, "BA");
   hit(w.FgZ1, 4711, 3, "BA");
   w.Ch1esito.set(true);
   world.press("Command86");
   EXPECT_EQ(world.shell.texts(), std::vector<std::string>{"Attenzione! probabile anomalia.."});
   EXPECT_EQ(world.shell.lastBox().icon, Icon::Critical);
   EXPECT_EQ(world.shell.lastBox().title, "Avviso");
+  ASSERT_EQ(w.FgZZ.rows(), 4);  // the rest is done: the hit, the case without, the row that can't be
+  EXPECT_EQ(w.FgZZ.number(1, hit_column::kCase), 1);
+  EXPECT_EQ(w.FgZZ.number(2, hit_column::kCase), 2);
+  EXPECT_EQ(w.FgZZ.number(3, hit_column::kCase), 4711);
+  EXPECT_EQ(w.Fg_Stat.text(3, 1), "2");
+  EXPECT_EQ(w.Fg_Graf.text(0, 1), "1");
 }
 
 TEST(RielaboraTutto, RebuildsCasesAndTablesAndKeepsFormulas) {

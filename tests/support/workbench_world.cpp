@@ -44,7 +44,7 @@ void WorkbenchWorld::setCases(const std::vector<int>& draws, int colpi) {
   choose(w.ComboColpi, std::to_string(colpi));
 }
 
-int WorkbenchWorld::addFormula(Grid& table, const FormulaRow& row) {
+int WorkbenchWorld::addFormula(Grid& table, const FormulaCells& row) {
   using namespace formula_column;
   const int at = table.appendRow();
   for (std::size_t e = 0; e < row.elements.size(); ++e) {
@@ -58,14 +58,14 @@ int WorkbenchWorld::addFormula(Grid& table, const FormulaRow& row) {
   table.setText(at, kNr, row.nr);
   table.setText(at, kQn, row.qn);
   table.setText(at, kAlteration, row.alteration);
-  table.setText(at, formula_column::kWheels, row.wheels);
+  table.setText(at, formula_column::kOwnWheels, row.wheels);
   return at;
 }
 
-FormulaRow randomFormula(std::mt19937& rng) {
+FormulaCells randomFormula(std::mt19937& rng) {
   const auto upTo = [&rng](std::size_t n) { return static_cast<int>(rng() % n); };
-  FormulaRow row;
-  const auto element = [&] { return FormulaRow::Element{upTo(kWheels), 1 + upTo(kPositions)}; };
+  FormulaCells row;
+  const auto element = [&] { return FormulaCells::Element{upTo(kWheels), 1 + upTo(kPositions)}; };
   row.fix = rng() % 3 == 0 ? 0 : 1 + upTo(90);
   row.alteration =
       rng() % 20 == 0 ? "XYZ" : std::string(kAlterations[static_cast<std::size_t>(upTo(kAlterations.size()))]);

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "cases/case_rows.h"
+#include "cases/formula_rows.h"
 #include "cases/workbench.h"
 #include "engine/evaluation.h"
 #include "support/archive_builder.h"
@@ -13,7 +15,7 @@
 namespace trv5 {
 
 /// A formula row as a table holds it. Elements beyond those given stay blank.
-struct FormulaRow {
+struct FormulaCells {
   struct Element {
     int wheel, position;
   };
@@ -44,10 +46,10 @@ class WorkbenchWorld {
   /// `FgEv` with a case on each of these draws, and the colpi, as a detection leaves them.
   void setCases(const std::vector<int>& draws, int colpi = 10);
   /// Appends a formula to a table.
-  static int addFormula(Grid& table, const FormulaRow& row);
+  static int addFormula(Grid& table, const FormulaCells& row);
 };
 
 /// A formula of any shape, alteration, operator and fix, sometimes one that no list offers.
-FormulaRow randomFormula(std::mt19937& rng);
+FormulaCells randomFormula(std::mt19937& rng);
 
 }  // namespace trv5

@@ -1,7 +1,6 @@
-#include "engine/hit_rows.h"
+#include "cases/hit_rows.h"
 
-#include <set>
-#include <string>
+#include "cases/case_rows.h"
 
 namespace trv5 {
 namespace {
@@ -18,6 +17,23 @@ int appendCase(const Workbench& w, Grid& target, int caseRow, Rgb mark) {
 }
 
 }  // namespace
+
+std::vector<HitRow> readHits(const Grid& grid, int numberColumns) {
+  using namespace hit_column;
+  std::vector<HitRow> rows;
+  for (int row = 1; row < grid.rows(); ++row) {
+    HitRow& hit = rows.emplace_back();
+    hit.caseRow = grid.number(row, kCase);
+    hit.caseDraw = grid.number(row, kCaseDraw);
+    hit.hitDraw = grid.number(row, kDraw);
+    hit.row = grid.number(row, kRow);
+    hit.colpo = grid.number(row, kColpo);
+    hit.hit = grid.back(row, kCase) == VerdeMedio;
+    for (int column = kNumbers; column < kNumbers + numberColumns; ++column)
+      if (const int n = grid.number(row, column); n > 0) hit.numbers.push_back(n);
+  }
+  return rows;
+}
 
 void appendHits(const Workbench& w, Grid& target, int caseRow, const Hits& hits, RowColumn rowColumn,
                 HitColour colour) {
@@ -51,37 +67,9 @@ int appendMiss(const Workbench& w, Grid& target, int caseRow) {
   return appendCase(w, target, caseRow, AranciaMedio);
 }
 
-void markCovered(Workbench& w, int caseRow, int column, int hits) {
-  w.FgEv.setBack(caseRow, column, Verde);
-  w.FgEv.setNumber(caseRow, column, hits);
-}
-
-void clearMarks(Workbench& w, int column) {
-  for (int row = 1; row < w.FgEv.rows(); ++row) {
-    w.FgEv.setBack(row, column, kWhite);
-    w.FgEv.setText(row, column, "");
-  }
-}
-
-void markOpenCases(Workbench& w) {
-  for (int row = 1; row < w.FgEv.rows(); ++row)
-    if (w.EstrazioneRiferimento - caseDraw(w, row) < w.Colpi) w.FgEv.setBack(row, case_column::kDraw, Ciano);
-}
-
-void countOpenCases(Workbench& w, Grid& hitGrid) {
-  w.CasiInCorso = 0;
-  std::set<std::string> open;
-  for (int row = 1; row < w.FgEv.rows(); ++row) {
-    if (w.FgEv.back(row, case_column::kDraw) != Ciano) continue;
-    ++w.CasiInCorso;
-    open.insert(w.FgEv.text(row, case_column::kProg));
-  }
-  for (int row = 1; row < hitGrid.rows(); ++row)
-    if (open.contains(hitGrid.text(row, hit_column::kCase))) hitGrid.setBack(row, hit_column::kCase, Ciano);
-}
-
-PlayWindow playWindow(const Workbench& w) {
-  return {.colpi = w.Colpi, .lastDraw = w.EstrazioneRiferimento, .wheels = w.RuoteGioco};
+void markOpenRows(Grid& target, const std::multiset<int>& open) {
+  for (int row = 1; row < target.rows(); ++row)
+    if (open.contains(target.number(row, hit_column::kCase))) target.setBack(row, hit_column::kCase, Ciano);
 }
 
 }  // namespace trv5

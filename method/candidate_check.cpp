@@ -1,0 +1,70 @@
+#include "method/candidate_check.h"
+
+#include <algorithm>
+#include <span>
+
+#include "method/elaboration.h"
+
+namespace trv5 {
+
+bool countsStandAlone(const CandidateRequest& request, const std::vector<FormulaRow>& candidates) {
+  const auto alone = [](const FormulaRow& row) { return Formula(row).standsAlone(); };
+  for (const std::vector<FormulaRow>& table : request.method.formulas)
+    if (!std::all_of(table.begin(), table.end(), alone)) return false;
+  return std::all_of(candidates.begin(), candidates.end(),
+                     [&](const FormulaRow& row) { return isBlank(row) || alone(row); }) &&
+         !request.archive->repeatsNumbers();
+}
+
+CandidateCounts::CandidateCounts(const CandidateRequest& request) : m_archive(*request.archive) {
+  const PlayWindow window = request.method.window();
+  ParametriFormula carry;
+  const std::vector<CaseNumbers> numbers = numbersInPlay(m_archive, request.method.formulas, request.caseDraws, carry);
+  // A forecast joins one number of each table below and the candidate's; a lunghetta, its own numbers and that one.
+  const int joined = traitsOf(request.table).joinedTables;
+  for (std::size_t i = 0; i < request.caseDraws.size(); ++i) {
+    OneCase one{.draw = request.caseDraws[i], .leftOut = i < request.leftOut.size() && request.leftOut[i]};
+    if (joined == 0)
+      one.counts = companionsOfAll(m_archive, one.draw, window, numbers[i][indexOf(request.table)].flags(),
+                                   request.method.sorte);
+    else if (!one.leftOut)
+      one.counts = companionsOfSets(m_archive, one.draw, window,
+                                    std::span(numbers[i]).first(static_cast<std::size_t>(joined - 1)));
+    m_cases.push_back(one);
+  }
+}
+
+Totals CandidateCounts::with(const FormulaRow& candidate) const {
+  const Formula formula(candidate);
+  ParametriFormula carry;
+  Totals totals;
+  for (const OneCase& one : m_cases) totals.add(hits(one, formula.evaluate(m_archive, one.draw, carry)));
+  return totals;
+}
+
+Totals CandidateCounts::without() const {
+  Totals totals;
+  for (const OneCase& one : m_cases) totals.add(hits(one, 0));
+  return totals;
+}
+
+int CandidateCounts::hits(const OneCase& one, int number) {
+  const auto n = static_cast<std::size_t>(number >= 1 && number <= kMostNumber ? number : 0);
+  const int hits = one.counts.always + one.counts.with[n];
+  if (!one.leftOut) return hits;
+  // The closing elaboration of the lunghetta leaves no case out: it marks by the last wheel looked at.
+  return one.counts.playedOnLastWheel + (one.counts.onLastWheel[n] ? 1 : 0) >= 2 ? hits : 0;
+}
+
+Totals verifiedTotals(const CandidateRequest& request, ParametriFormula& carry) {
+  const Verification verified =
+      verify(*request.archive, request.method, request.table, request.caseDraws, {.leftOut = request.leftOut}, carry);
+  if (request.table != Table::Lunghetta) return verified.totals;
+  const Elaboration elaborated = elaborate(*request.archive, request.method, request.caseDraws, carry);
+  Totals totals;
+  for (std::size_t i = 0; i < verified.hits.size(); ++i)
+    totals.add(elaborated.marked[i] > 0 ? elaborated.marked[i] : static_cast<int>(verified.hits[i].size()));
+  return totals;
+}
+
+}  // namespace trv5
