@@ -146,7 +146,7 @@ void ApreBanco(Workbench& w) {
   NuovaConfigurazioneReset(w);
   w.SSTab3.set(0);
   CambiaTabPrevisioni(w);
-  w.button("Command3").press();
+  w.hooks.extractTriples();
   hideWorkingColumns(w);
   fillLists(w);
   w.Colpi = w.ComboColpi.number();
@@ -156,8 +156,8 @@ void ApreBanco(Workbench& w) {
   w.hs1.setMaximum(w.archive.UltimaEstrazione());
   w.hs1.set(w.archive.UltimaEstrazione());
   CambiaEstrazioneRiferimento(w);  // an archive of one draw moves no scroll bar
-  w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento));
-  w.button("Cmd_Elenco").press();
+  SettaEstrazioneMensile(w);
+  w.hooks.listConfigurations();
 }
 
 void RicavaRuoteGioco(Workbench& w) {
@@ -226,6 +226,20 @@ void SelezionaPerProprieta(Workbench& w, const NumberTable& property) {
     if (property[static_cast<std::size_t>(n)] == w.ComboValF.index()) w.FgNu.setBack((n - 1) / 10, (n - 1) % 10, Ciano);
 }
 
+void DeselezionaNumeri(Workbench& w) {
+  paintAll(w.FgNu, kWhite);
+}
+
+void SettaEstrazioneMensile(Workbench& w) {
+  w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento));
+}
+
+void MostraAiuto(Workbench& w) {
+  constexpr int kHelpContext = 290;
+  w.setHelpContext(kHelpContext);
+  w.shell().help(kHelpContext);
+}
+
 void connectSelections(Workbench& w) {
   w.hs1.onEvent([&w] { CambiaEstrazioneRiferimento(w); });
   w.SSTab3.onEvent([&w] { CambiaTabPrevisioni(w); });
@@ -258,18 +272,6 @@ void connectSelections(Workbench& w) {
   for (const auto& [index, label] : w.Label1) label->onEvent([&w] { paintAll(w.FgRG, kWhite); });
   w.TxtNumeri.onDoubleClick([&w] { w.TxtNumeri.set(""); });
   w.Txt_Denominazione.onDoubleClick([&w] { w.Txt_Denominazione.set(""); });
-
-  w.button("Command24").onEvent([&w] { SelezionaPerProprieta(w, TabDecina); });
-  w.button("Command25").onEvent([&w] { SelezionaPerProprieta(w, TabCadenza); });
-  w.button("Command26").onEvent([&w] { SelezionaPerProprieta(w, TabFigura); });
-  w.button("Command8").onEvent([&w] { paintAll(w.FgNu, kWhite); });
-  w.button("Command6").onEvent([&w] { RiportaNumeri(w); });
-  w.button("Command41").onEvent([&w] { NuovaConfigurazioneReset(w); });
-  w.button("Command14").onEvent([&w] { w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento)); });
-  w.button("Command70").onEvent([&w] {
-    w.setHelpContext(290);
-    w.shell().help(290);
-  });
 }
 
 }  // namespace trv5

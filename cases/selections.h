@@ -27,7 +27,16 @@ void RiportaNumeri(Workbench& w);
 /// "DEC", "CAD", "FIG": selects in `FgNu` the numbers whose `property` is the chosen value of `ComboValF`.
 void SelezionaPerProprieta(Workbench& w, const NumberTable& property);
 
-/// Wires these operations to the controls of the workbench.
+/// "Reset": no number is selected.
+void DeselezionaNumeri(Workbench& w);
+
+/// "Setta estrazione mensìle": `ComboPar` by the progressive of the reference draw.
+void SettaEstrazioneMensile(Workbench& w);
+
+/// "Help in linea".
+void MostraAiuto(Workbench& w);
+
+/// Wires the changes of lists, scroll bar, tabs and the clicks on grids and labels to their operations.
 void connectSelections(Workbench& w);
 
 }  // namespace trv5

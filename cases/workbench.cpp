@@ -9,164 +9,7 @@
 namespace trv5 {
 namespace {
 
-struct ButtonRow {
-  const char* name;
-  const char* caption;
-  const char* toolTip;
-};
-
-constexpr const char* kOneWheel = "Ricerca migliore ruota";
-constexpr const char* kTwoWheels = "Ricerca miglior 2 ruote";
-constexpr const char* kThreeWheels = "Ricerca miglior 3 ruote";
-constexpr const char* kPure = "Numeri puri";
-constexpr const char* kCounts = "Riverifica le righe della ricerca";
-
-// Every button of the workbench; where a button does something, the layer that knows how connects it.
-constexpr ButtonRow kButtons[] = {
-    // Reference bar.
-    {"Command42_0", "", "Aggiorna l'estrazione di riferimento"},
-    {"Command42_1", "Ricera per data", "Ricera per data"},
-    {"Command42_2", "Ricerca per numero estrazione", "Ricerca per numero estrazione"},
-    {"Command42_3", "Vai all'ultima estrazione", "Vai all'ultima estrazione"},
-    {"Command87", "RIELABORA TUTTO", "Ricava l'elenco e verifica tutte le tabelle"},
-    {"Command70", "Help in linea", "Help in linea"},
-    // Selezioni.
-    {"Command14", "Setta estrazione mensìle", ""},
-    {"Command24", "DEC", "Seleziona i numeri della decina"},
-    {"Command25", "CAD", "Seleziona i numeri della cadenza"},
-    {"Command26", "FIG", "Seleziona i numeri della figura"},
-    {"Command8", "Reset", "Deseleziona tutti i numeri"},
-    {"Command6", "OK", "Riporta i numeri selezionati"},
-    {"Command41", "Nuova configurazione (Reset)", ""},
-    {"Command44", "RICAVA ELENCO ESTRAZIONI", ""},
-    // Elenco estrazioni.
-    {"Command12", "Visualizza estrazione", ""},
-    {"Command103", "", "Mappa dei casi"},
-    {"Command27", "Nuova configurazione", "Cancella i segni delle verifiche"},
-    // Ricerca.
-    {"Command3", "Estrae Terzine", "Prepara le terzine di posizioni per 3N 1R"},
-    {"Cmd_Colora_fgf", "Colora grid", ""},
-    {"Command20", "1N 1R", "1 numero 1 ruota"},
-    {"Command11", "1R", kOneWheel},
-    {"Command13", "2R", kTwoWheels},
-    {"Command15", "3R", kThreeWheels},
-    {"Command23", "2N 1R", "2 numeri 1 ruota"},
-    {"Command17", "1R", kOneWheel},
-    {"Command16", "2R", kTwoWheels},
-    {"Command7", "3R", kThreeWheels},
-    {"Command18", "3N 1R", "3 numeri 1 ruota"},
-    {"Command10", "2N 2R", "2 numeri (1 per ruota) 2 ruote"},
-    {"Command1", "1R", kOneWheel},
-    {"Command2", "2R", kTwoWheels},
-    {"Command77", "NUM", kPure},
-    {"Command101", "1R", kOneWheel},
-    {"Command100", "2R", kTwoWheels},
-    {"Command99", "3R", kThreeWheels},
-    {"Command28", "1N 1R", "1 numero 1 ruota"},
-    {"Command39", "2N 1R", "2 numeri 1 ruota"},
-    {"Command37", "3N 1R", "3 numeri 1 ruota"},
-    {"Command31", "2N 2R", "2 numeri (1 per ruota) 2 ruote"},
-    {"Command105", "NUM", kPure},
-    {"Command64", "CC", kCounts},
-    {"Command46", "1N 1R", "1 numero 1 ruota"},
-    {"Command43", "2N 1R", "2 numeri 1 ruota"},
-    {"Command45", "3N 1R", "3 numeri 1 ruota"},
-    {"Command40", "2N 2R", "2 numeri (1 per ruota) 2 ruote"},
-    {"Command107", "NUM", kPure},
-    {"Command73", "CC", kCounts},
-    {"Command56", "1N 1R", "1 numero 1 ruota"},
-    {"Command58", "2N 1R", "2 numeri 1 ruota"},
-    {"Command57", "3N 1R", "3 numeri 1 ruota"},
-    {"Command59", "2N 2R", "2 numeri (1 per ruota) 2 ruote"},
-    {"Command108", "NUM", kPure},
-    {"Command84", "CC", kCounts},
-    {"Command22", "Verifica riga selezionata", "Verifica la riga della ricerca senza aggiungerla"},
-    // Ambate.
-    {"Command29", "Verifica tutte le righe", ""},
-    {"Command21", "Verifica riga selezionata", ""},
-    {"Command90", "Verifica oltre limite", "Prosegue i casi in corso oltre l'estrazione di riferimento"},
-    {"Command32", "Rimuove riga selezionata", ""},
-    {"Command19", "Nuova configurazione", ""},
-    {"Stampa_FgZ1", "Stampa", ""},
-    {"Copia_FgZ1", "Copia tabella", ""},
-    {"Command75", "Pulisce celle esiti", ""},
-    // Ambi.
-    {"Command34", "Verifica tutte le righe", ""},
-    {"Command5", "Verifica oltre limite", "Prosegue i casi in corso oltre l'estrazione di riferimento"},
-    {"Rimuove_Fg22", "Rimuove riga selezionata", ""},
-    {"Nuova_Fg22", "Nuova configurazione", ""},
-    {"Stampa_FgZ2", "Stampa", ""},
-    {"Copia_FgZ2", "Copia tabella", ""},
-    {"Pulisce_FgZ2", "Pulisce celle esiti", ""},
-    // Terni.
-    {"Command48", "Verifica tutte le righe", ""},
-    {"Command91", "Verifica oltre limite", "Prosegue i casi in corso oltre l'estrazione di riferimento"},
-    {"Rimuove_Fg33", "Rimuove riga selezionata", ""},
-    {"Nuova_Fg33", "Nuova configurazione", ""},
-    {"Stampa_FgZ3", "Stampa", ""},
-    {"Copia_FgZ3", "Copia tabella", ""},
-    {"Pulisce_FgZ3", "Pulisce celle esiti", ""},
-    // Riepilogo.
-    {"Command86", "RIEPILOGO", ""},
-    {"Command96", "Stampa", ""},
-    {"Command98", "Copia tabella", ""},
-    {"Command97", "Pulisce celle esiti", ""},
-    // Lunghetta.
-    {"Cmd_Elabora100", ">>", "Elabora i numeri in gioco caso per caso"},
-    {"Command30", "COPIA", "Raccoglie le formule di ambate, ambi e terni"},
-    {"Command51", "Verifica tutte le righe", ""},
-    {"Command92", "Verifica oltre limite", "Prosegue i casi in corso oltre l'estrazione di riferimento"},
-    {"Rimuove_Fg00", "Rimuove riga selezionata", ""},
-    {"Nuova_Fg00", "Nuova configurazione", ""},
-    {"Stampa_FgZ0", "Stampa", ""},
-    {"Copia_FgZ0", "Copia tabella", ""},
-    {"Pulisce_FgZ0", "Pulisce celle esiti", ""},
-    {"Command85", "Visualizzazione estesa", ""},
-    // Previsioni in corso.
-    {"Command35", "Elenco previsioni in corso", ""},
-    {"Command102", "Verifica oltre limite", ""},
-    {"Command50", "1", "Filtra ambate"},
-    {"Command55", "2", "Filtra ambi"},
-    {"Command60", "3", "Filtra terni"},
-    {"Command61", "L", "Filtra lunghette"},
-    {"Command62", "Filtra selezionati", ""},
-    {"Command38", "Stampa", ""},
-    {"Command93", "Copia tabella", ""},
-    // Numeri in gioco.
-    {"Command63", "Evidenzia se previsioni in corso", ""},
-    // Raggruppamento.
-    {"Command106", "Esegue procedura", ""},
-    {"Command109", "Stampa", ""},
-    {"Command110", "Copia tabella", ""},
-    {"Command114", "AMBATE", ""},
-    {"Command115", "AMBO", ""},
-    {"Command116", "TERNO", ""},
-    // Informazioni.
-    {"Command9", "RITARDI", ""},
-    {"Command88", "PRESENZE", ""},
-    {"Command76", "PRESENZE NEI COLPI DI GIOCO", ""},
-    {"Command111", "Ricerca su 2 ruote", ""},
-    {"Command112", "Ricerca su 3 ruote", ""},
-    {"Command113", "Ricerca su 4 ruote", ""},
-    {"Command104", "Filtra selezionati", ""},
-    {"Command89", "Copia tabella", ""},
-    // Configurazioni.
-    {"Command4", "Salva configurazione", ""},
-    {"Cmd_Elenco", "ELENCO", ""},
-    {"Command54", "Cancella selezionata", ""},
-    // Called by other buttons alone.
-    {"Command117", "Command117", ""},
-    {"Command94", "Verifica per CC", ""},
-    {"Command95", "Verifica per CC", ""},
-    {"Command69", "Verifica per CC", ""},
-};
-
 constexpr const char* kDeadToolTip = "Non ancora disponibile in questa versione";
-
-// The button without which a tab of SSTab3 has nothing to offer.
-constexpr std::pair<int, const char*> kMainButtonOfTab[] = {
-    {0, "Command29"}, {1, "Command34"}, {2, "Command48"},  {3, "Command86"}, {4, "Command51"},
-    {5, "Command35"}, {6, "Command63"}, {7, "Command106"}, {8, "Command9"},  {9, "Command4"}};
 
 }  // namespace
 
@@ -264,10 +107,7 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
       FgS4(*this, "FgS4", ""),
       FgS5(*this, "FgS5", ""),
       FgS6(*this, "FgS6", ""),
-      FgSort(*this, "FgSort", "") {
-  for (const ButtonRow& row : kButtons)
-    m_buttons.push_back(std::make_unique<Button>(*this, row.name, row.caption, row.toolTip));
-}
+      FgSort(*this, "FgSort", "") {}
 
 GridControl& Workbench::formulas(Table table) {
   const ByTable<GridControl*> grids = {&Fg11, &Fg22, &Fg33, &Fg00};
@@ -279,13 +119,17 @@ GridControl& Workbench::hits(Table table) {
   return *grids[indexOf(table)];
 }
 
-void Workbench::disableDeadButtons() {
-  for (const std::unique_ptr<Button>& b : m_buttons) {
-    if (b->hasEvent()) continue;
-    b->setEnabled(false);
-    b->setToolTip(kDeadToolTip);
+void Workbench::addButtons(const WorkbenchButtons& group) {
+  for (const WorkbenchButton& row : group.buttons) {
+    Button& added = *m_buttons.emplace_back(std::make_unique<Button>(*this, row.name, row.caption, row.toolTip));
+    if (row.run != nullptr) {
+      added.onEvent([this, run = row.run] { run(*this); });
+    } else {
+      added.setEnabled(false);
+      added.setToolTip(kDeadToolTip);
+    }
   }
-  for (const auto& [tab, name] : kMainButtonOfTab) SSTab3.setTabEnabled(tab, button(name).hasEvent());
+  if (group.tab >= 0) SSTab3.setTabEnabled(group.tab, group.buttons.front().run != nullptr);
 }
 
 }  // namespace trv5

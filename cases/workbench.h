@@ -1,15 +1,49 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/controls.h"
+#include "method/detection.h"
 #include "method/table.h"
 
 namespace trv5 {
+
+class Workbench;
+
+/// A button of the workbench: what the user reads and what it does. Its name is the control's.
+struct WorkbenchButton {
+  const char* name;
+  const char* caption;
+  const char* toolTip;
+  void (*run)(Workbench&);  ///< null: nothing yet, the button is disabled and says so
+};
+
+/// The buttons of one place on the screen.
+struct WorkbenchButtons {
+  const char* place;
+  /// The tab of `SSTab3` that they make up, -1 for none: where the first of them does nothing yet, the user can't reach
+  /// the tab.
+  int tab;
+  std::span<const WorkbenchButton> buttons;
+};
+
+/// What operations on the workbench have done elsewhere, in layers that they can't see.
+struct WorkbenchHooks {
+  /// "Estrae Terzine".
+  std::function<void()> extractTriples = [] {};
+  /// ELENCO of the saved configurations.
+  std::function<void()> listConfigurations = [] {};
+  /// The draws of a case in the mini list, the numbers that made it marked.
+  std::function<void(const FoundElement& first, const std::optional<FoundElement>& second)> showDraws =
+      [](const FoundElement&, const std::optional<FoundElement>&) {};
+};
 
 /// The workbench, where a method is built: all its controls and the state that its operations share. Operations are
 /// functions on it; the layers connect them to its buttons.
@@ -86,9 +120,9 @@ class Workbench : public Form, public WorkbenchState {
   /// The button of that name; throws std::logic_error when there is none.
   Button& button(std::string_view name) const { return get<Button>(name); }
 
-  /// Disables every button that no operation is connected to, with a tooltip that says so, and the tabs of `SSTab3`
-  /// whose buttons are all dead.
-  void disableDeadButtons();
+  void addButtons(const WorkbenchButtons& group);
+
+  WorkbenchHooks hooks;
 
  private:
   std::vector<std::unique_ptr<Button>> m_buttons;

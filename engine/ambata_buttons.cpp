@@ -1,5 +1,6 @@
 #include "engine/ambata_buttons.h"
 
+#include <stdexcept>
 #include <string>
 
 #include "cases/formula_rows.h"
@@ -34,6 +35,12 @@ std::string operatorText(const Workbench& w, Shape shape) {
 }
 
 }  // namespace
+
+const AmbataButton& ambataSearch(std::string_view name) {
+  for (const AmbataButton& search : kAmbataButtons)
+    if (search.name == name) return search;
+  throw std::logic_error("no such search: " + std::string(name));
+}
 
 void CercaAmbate(Workbench& w, const AmbataButton& button) {
   using namespace formula_column;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "cases/workbench.h"
 #include "method/search.h"
@@ -53,6 +54,9 @@ inline constexpr std::array<AmbataButton, 12> kAmbataButtons = {{
     {.name = "Command1", .shape = Shape::TwoTwoWheels, .wheelsOfSet = 1, .nr = "2", .qn = "1", .logsEachPass = true},
     {.name = "Command2", .shape = Shape::TwoTwoWheels, .wheelsOfSet = 2, .nr = "2", .qn = "2"},
 }};
+
+/// The search of that control; throws std::logic_error when there is none.
+const AmbataButton& ambataSearch(std::string_view name);
 
 /// Runs the search of a button: the formulas that, applied to the cases, would have given a number drawn in the
 /// following colpi, ranked in `FgF`. Without cases nothing happens at all.

@@ -1,6 +1,7 @@
 #include "engine/companion_buttons.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 
 #include "cases/formula_rows.h"
@@ -34,6 +35,12 @@ CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
 }
 
 }  // namespace
+
+const CompanionButton& companionSearch(std::string_view name) {
+  for (const CompanionButton& search : kCompanionButtons)
+    if (search.name == name) return search;
+  throw std::logic_error("no such search: " + std::string(name));
+}
 
 void CercaCompagni(Workbench& w, const CompanionButton& button) {
   using namespace formula_column;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "cases/workbench.h"
 #include "method/search.h"
@@ -91,6 +92,9 @@ inline constexpr std::array<CompanionButton, 12> kCompanionButtons = {{
      .knownOperators = 6,
      .writesOperator = true},
 }};
+
+/// The search of that control; throws std::logic_error when there is none.
+const CompanionButton& companionSearch(std::string_view name);
 
 /// Runs the search of a button: ranks in `FgF` the formulas that, evaluated on the draw of the case, give a number that
 /// came out with the hit numbers, on their wheel, in the draw of the hit; then verifies each of them (CC). Ambi start

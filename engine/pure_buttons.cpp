@@ -63,14 +63,13 @@ NumberCounts countCompanions(const Workbench& w, Table table) {
 
 }  // namespace
 
-void CercaNumeri(Workbench& w, const PureButton& button) {
+void CercaNumeri(Workbench& w, int wheelsOfSet) {
   using namespace formula_column;
   if (!w.FgEv.hasData()) return;
   startLog(w);
   w.Elenco = w.ComboEle.number();
   w.Colpi = w.ComboColpi.number();
-  const std::vector<WheelSet> sets =
-      button.wheelsOfSet == 0 ? std::vector<WheelSet>{w.RuoteGioco} : wheelSetsOf(button.wheelsOfSet);
+  const std::vector<WheelSet> sets = wheelsOfSet == 0 ? std::vector<WheelSet>{w.RuoteGioco} : wheelSetsOf(wheelsOfSet);
   const std::vector<NumberRow> rows =
       overwritePassByPass(countNumbers(w.archive, countingCases(w), w.Colpi, w.EstrazioneRiferimento, sets));
 
@@ -79,7 +78,7 @@ void CercaNumeri(Workbench& w, const PureButton& button) {
   for (int row = 1; row < w.FgF.rows(); ++row) {
     const NumberRow& found = rows[static_cast<std::size_t>(row - 1)];
     writeNumber(w, row, found.number, found.count);
-    if (button.wheelsOfSet > 0) w.FgF.setText(row, formula_column::kOwnWheels, wheelCodes(sets[found.wheelSet]));
+    if (wheelsOfSet > 0) w.FgF.setText(row, formula_column::kOwnWheels, wheelCodes(sets[found.wheelSet]));
   }
   // The number is a fix, and obeys the same switch: without fix the list shows counts alone.
   if (!w.ChFix1R.checked()) writeAllRows(w, kFix, "");
@@ -91,18 +90,18 @@ void CercaNumeri(Workbench& w, const PureButton& button) {
   w.shell().status("Ricerca: 90 numeri");
 }
 
-void CercaNumeriCompagni(Workbench& w, const PureCompanionButton& button) {
+void CercaNumeriCompagni(Workbench& w, Table table) {
   using namespace formula_column;
-  if (!hitsAreThere(w, hitSource(button.table))) return;
+  if (!hitsAreThere(w, hitSource(table))) return;
   startLog(w);
-  if (button.table == Table::Lunghetta) {
+  if (table == Table::Lunghetta) {
     PreparaPerScoperti(w);
     w.Sorte = w.ComboSorte.index() + 1;
   }
   w.Elenco = w.ComboEle.number();
   SettaggioFix(w);
   w.Colpi = w.ComboColpi.number();
-  const NumberCounts counts = countCompanions(w, button.table);
+  const NumberCounts counts = countCompanions(w, table);
 
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, kMostNumber);
@@ -110,7 +109,7 @@ void CercaNumeriCompagni(Workbench& w, const PureCompanionButton& button) {
   w.FgF.sortByNumber(kCc, true);
   writeAllRows(w, kNr, "0");
   writeAllRows(w, kQn, "0");
-  closeCompanionSearch(w, button.table);
+  closeCompanionSearch(w, table);
 }
 
 }  // namespace trv5

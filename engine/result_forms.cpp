@@ -22,9 +22,6 @@ ElencoRiscontri::ElencoRiscontri(Shell& shell)
   Copia_Fg1.onEvent([this] { CopiaTabella(Fg1); });
 }
 
-EvoluzioneGrafica::EvoluzioneGrafica(Shell& shell)
-    : Form(shell, "EvoluzioneGrafica", "Evoluzione"), Fg1(*this, "Fg1", "") {}
-
 Speciale::Speciale(Shell& shell)
     : Form(shell, "Speciale", "Sfaldamenti configurazioni"), Fg1(*this, "Fg1", kOutcomeHeading) {
   Fg1.setColumnHidden(2);

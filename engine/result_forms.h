@@ -17,16 +17,6 @@ class ElencoRiscontri : public Form {
   Button Stampa_Fg1, Pulisce_Fg1, Copia_Fg1;
 };
 
-/// "Evoluzione": the map of the cases.
-class EvoluzioneGrafica : public Form {
- public:
-  explicit EvoluzioneGrafica(Shell& shell);
-  explicit EvoluzioneGrafica(const Program& program) : EvoluzioneGrafica(program.shell) {}
-
-  /// Row 0: draw indices from column 1 on; column 0: the case.
-  GridControl Fg1;
-};
-
 /// "Sfaldamenti configurazioni": the saved configurations that have come out.
 class Speciale : public Form {
  public:

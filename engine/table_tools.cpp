@@ -1,8 +1,8 @@
 #include "engine/table_tools.h"
 
+#include "cases/hit_rows.h"
 #include "core/grid_text.h"
 #include "core/wheels.h"
-#include "cases/hit_rows.h"
 
 namespace trv5 {
 

@@ -102,6 +102,24 @@ void MostraEstrazioneDestra(MiniList& list) {
   show(list.archive, {list.Hs2, list.Label5, list.Label6, list.Label4, list.fG3});
 }
 
+void MostraElementi(MiniList& list, const MarkedDraw& first, const std::optional<MarkedDraw>& second) {
+  const auto mark = [](const MarkedDraw& element, Grid& numbers) {
+    for (int p = 1; p <= kPositions; ++p)
+      if (element.positions[static_cast<std::size_t>(p)]) numbers.setBack(element.wheel + 1, p, Verde);
+  };
+  // The archive may have grown since the list was last moved.
+  for (Scroll* const scroller : {&list.hs1, &list.Hs2})
+    if (scroller->maximum() < list.archive.UltimaEstrazione()) scroller->setMaximum(list.archive.UltimaEstrazione());
+  list.hs1.set(first.draw);
+  whiten(list.fG2);  // a scroll bar that stands there already whitens nothing
+  whiten(list.fG3);
+  mark(first, list.fG2);
+  if (!second) return;
+  list.Hs2.set(second->draw);
+  whiten(list.fG3);
+  mark(*second, list.fG3);
+}
+
 void SegnaNumero(MiniList& list, int row, int column) {
   if (row < 1 || column < 1) return;
   list.fG2.setBack(row, column, list.fG2.back(row, column) == Verde ? kWhite : Verde);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include "core/archive.h"
 #include "core/controls.h"
 #include "core/program.h"
@@ -43,6 +46,17 @@ void MostraEstrazioneDestra(MiniList& list);
 
 /// Click on a number of the left panel: marks it in green, or takes the mark away. Codes of wheels take none.
 void SegnaNumero(MiniList& list, int row, int column);
+
+/// A draw to be looked at, with the positions 1..5 of one wheel to be marked.
+struct MarkedDraw {
+  int draw = 0;
+  int wheel = 0;  ///< 0..10
+  std::array<bool, kPositions + 1> positions{};
+};
+
+/// Both panels as a case wants them: the draw of its first element at the left, that of its second, where it has one,
+/// at the right, and no other marks than theirs.
+void MostraElementi(MiniList& list, const MarkedDraw& first, const std::optional<MarkedDraw>& second);
 
 /// "Ricerca per numero indice": `hs1` by the index of a draw, from 1 on.
 void CercaPerIndice(MiniList& list);

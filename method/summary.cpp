@@ -61,9 +61,11 @@ Summary summarize(const std::vector<SummaryHit>& hits, const std::vector<int>& n
 
 void joinHits(const Verification& verified, Table table, const std::vector<int>& caseDraws,
               std::vector<SummaryHit>& into) {
-  for (std::size_t i = 0; i < verified.hits.size(); ++i)
+  for (std::size_t i = 0; i < verified.hits.size(); ++i) {
+    if (verified.open[i]) continue;
     for (const Hit& hit : verified.hits[i])
       into.push_back({static_cast<int>(i) + 1, hit.draw - caseDraws[i], traitsOf(table).code});
+  }
 }
 
 }  // namespace trv5

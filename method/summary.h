@@ -40,7 +40,7 @@ struct Summary {
 Summary summarize(const std::vector<SummaryHit>& hits, const std::vector<int>& numbering, const std::set<int>& open,
                   bool firstOnly);
 
-/// The hits of a table for the summary.
+/// The hits of a table for the summary, which passes over the cases still open.
 void joinHits(const Verification& verified, Table table, const std::vector<int>& caseDraws,
               std::vector<SummaryHit>& into);
 

@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "cases/case_list.h"
+#include "cases/case_map.h"
 #include "screens/kit/theme.h"
 
 namespace trv5 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/result_forms.h"
+#include "cases/case_map.h"
 #include "screens/kit/screen.h"
 
 namespace trv5 {

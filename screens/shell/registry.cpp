@@ -1,12 +1,14 @@
+#include "screens/shell/registry.h"
+
+#include "cases/selections.h"
 #include "core/container.h"
 #include "core/inizio.h"
-#include "engine/open_workbench.h"
+#include "desk/equip_workbench.h"
 #include "screens/ElencoRiscontri.h"
 #include "screens/Estrazioni_minielenco.h"
 #include "screens/EvoluzioneGrafica.h"
 #include "screens/INIZIO.h"
 #include "screens/Speciale.h"
-#include "screens/shell/registry.h"
 #include "screens/shell/Container.h"
 #include "screens/workbench/Sommativi1.h"
 
@@ -35,11 +37,15 @@ ScreenEntry loaded(ScreenEntry made) {
 }
 
 ScreenEntry workbench() {
-  ScreenEntry made = {
-      .name = "Sommativi1",
-      .makeForm = [](Program& program) { return std::make_unique<Workbench>(program.archive, program.shell); },
-      .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
-      .load = [](Form& form) { openWorkbench(static_cast<Workbench&>(form)); }};
+  ScreenEntry made = {.name = "Sommativi1",
+                      .makeForm =
+                          [](Program& program) {
+                            auto w = std::make_unique<Workbench>(program.archive, program.shell);
+                            equipWorkbench(*w);
+                            return w;
+                          },
+                      .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
+                      .load = [](Form& form) { ApreBanco(static_cast<Workbench&>(form)); }};
   return made;
 }
 

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <algorithm>
 
+#include "cases/case_rows.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
 

@@ -17,12 +17,6 @@ namespace {
 // The pages of searches, by the tab of the forecasts that they belong to.
 constexpr std::pair<int, const char*> kSections[] = {{0, "Ambate"}, {1, "Ambi"}, {2, "Terni"}, {4, "Lunghetta"}};
 
-std::vector<QString> candidateSamples() {
-  std::vector<QString> samples = formulaSamples();
-  samples.push_back(QStringLiteral("MI-MI-MI"));
-  return samples;
-}
-
 }  // namespace
 
 WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
@@ -57,7 +51,7 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
          kit.joined({names[5]}));
   body()->addWidget(m_pages);
 
-  m_candidates = kit.grid("FgF", {.samples = candidateSamples(), .tight = true});
+  m_candidates = kit.grid("FgF", {.samples = formulaSamples(), .tight = true});
   body()->addWidget(m_candidates, 1);
 
   std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),

@@ -1,4 +1,5 @@
 #include "cases/case_list.h"
+#include "cases/case_map.h"
 
 #include <gtest/gtest.h>
 

@@ -193,12 +193,12 @@ TEST(WorkbenchOpeningOrder, RunsExtractTriplesFirstAndTheSavedConfigurationsLast
   const Archive archive = monthBegun();
   FakeShell shell;
   Workbench w(archive, shell);
-  std::vector<std::string> pressed;
-  w.button("Command3").onEvent([&] { pressed.push_back("Command3 " + std::to_string(w.ComboFiltro.items().size())); });
-  w.button("Cmd_Elenco").onEvent([&] { pressed.push_back("Cmd_Elenco " + w.LabelRifE.text()); });
+  std::vector<std::string> run;
+  w.hooks.extractTriples = [&] { run.push_back("triples " + std::to_string(w.ComboFiltro.items().size())); };
+  w.hooks.listConfigurations = [&] { run.push_back("configurations " + w.LabelRifE.text()); };
   connectSelections(w);
   ApreBanco(w);
-  EXPECT_EQ(pressed, (std::vector<std::string>{"Command3 0", "Cmd_Elenco 3 07/02/1939  M-1"}));
+  EXPECT_EQ(run, (std::vector<std::string>{"triples 0", "configurations 3 07/02/1939  M-1"}));
 }
 
 TEST(WorkbenchOpeningOnOneDraw, RunsTheChangeOfTheReferenceThoughTheScrollBarCannotMove) {

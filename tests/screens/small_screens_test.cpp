@@ -9,6 +9,7 @@
 #include <map>
 
 #include "cases/case_list.h"
+#include "cases/case_map.h"
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "screens/EvoluzioneGrafica.h"

@@ -3,13 +3,15 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/open_workbench.h"
+#include "cases/selections.h"
+#include "desk/equip_workbench.h"
 #include "method/formula.h"
 
 namespace trv5 {
 
 WorkbenchWorld::WorkbenchWorld(Archive draws) : archive(std::move(draws)), w(archive, shell) {
-  openWorkbench(w);
+  equipWorkbench(w);
+  ApreBanco(w);
 }
 
 void WorkbenchWorld::choose(Combo& combo, const std::string& text) {

@@ -1,0 +1,49 @@
+#include "desk/equip_workbench.h"
+
+#include "cases/case_list.h"
+#include "cases/selections.h"
+#include "desk/workbench_buttons.h"
+#include "engine/evaluation.h"
+#include "engine/formula_tables.h"
+#include "maintenance/mini_list.h"
+
+namespace trv5 {
+namespace {
+
+MarkedDraw markedDraw(const FoundElement& element) {
+  return {element.draw, element.wheel, element.marks};
+}
+
+void showInMiniList(Workbench& w, const FoundElement& first, const std::optional<FoundElement>& second) {
+  auto& list = dynamic_cast<MiniList&>(w.shell().show("Estrazioni_minielenco"));
+  MostraElementi(list, markedDraw(first), second ? std::optional(markedDraw(*second)) : std::nullopt);
+}
+
+void fillHooks(Workbench& w) {
+  w.hooks.extractTriples = [&w] { EstraeTerzine(w); };
+  w.hooks.showDraws = [&w](const FoundElement& first, const std::optional<FoundElement>& second) {
+    showInMiniList(w, first, second);
+  };
+}
+
+// Clicks on the case list and on the candidates, and the buttons that take one of these over.
+void connectLists(Workbench& w) {
+  w.FgEv.onCellClick([&w](int row, int) { MostraCaso(w, row); });
+  for (const TableTraits& table : kTables)
+    w.Cmd_LaSorte[table.code].onEvent([&w, &table] { AggiungePrevisione(w, table.table); });
+  w.FgF.onCellDoubleClick([&w](int, int) {
+    for (const auto& [code, button] : w.Cmd_LaSorte)
+      if (button->enabled()) button->press();
+  });
+}
+
+}  // namespace
+
+void equipWorkbench(Workbench& w) {
+  for (const WorkbenchButtons& group : workbenchButtons()) w.addButtons(group);
+  fillHooks(w);
+  connectSelections(w);
+  connectLists(w);
+}
+
+}  // namespace trv5
