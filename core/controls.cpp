@@ -1,109 +1,10 @@
 #include "core/controls.h"
 
 #include <algorithm>
-#include <stdexcept>
 
-#include "core/errors.h"
 #include "core/text.h"
 
 namespace trv5 {
-namespace {
-
-// Operations nest across forms (one may open another screen and drive it), so the depth is the program's.
-int g_depth = 0;
-
-struct Depth {
-  Depth() { ++g_depth; }
-  ~Depth() { --g_depth; }
-};
-
-}  // namespace
-
-Form::Form(Shell& shell, std::string name, std::string title, int helpContext)
-    : m_shell(shell), m_name(std::move(name)), m_title(std::move(title)), m_helpContext(helpContext) {}
-
-Form::~Form() = default;
-
-void Form::setTitle(std::string title) {
-  m_title = std::move(title);
-  if (titleChanged) titleChanged();
-}
-
-Control* Form::find(std::string_view name) const {
-  const auto it = m_byName.find(name);
-  return it == m_byName.end() ? nullptr : it->second;
-}
-
-void Form::missing(std::string_view name) {
-  throw std::logic_error("no such control: " + std::string(name));
-}
-
-void Form::perform(const std::function<void()>& operation) {
-  if (!operation) return;
-  if (g_depth > 0) {
-    const Depth depth;
-    operation();
-    return;
-  }
-  try {
-    const Depth depth;
-    operation();
-  } catch (const UserError& error) {
-    m_shell.message({.text = error.what(), .title = error.title(), .icon = Icon::Critical});
-  } catch (const std::exception& error) {
-    m_shell.message({.text = std::string("Errore imprevisto: ") + error.what(), .icon = Icon::Critical});
-  }
-}
-
-bool Form::operationRunning() {
-  return g_depth > 0;
-}
-
-Control::Control(Form& form, std::string name) : m_form(form), m_name(std::move(name)) {
-  m_form.m_controls.push_back(this);
-  m_form.m_byName[m_name] = this;
-}
-
-void Control::setEnabled(bool enabled) {
-  if (m_enabled == enabled) return;
-  m_enabled = enabled;
-  changed();
-}
-
-void Control::setBack(std::optional<Rgb> colour) {
-  if (m_back == colour) return;
-  m_back = colour;
-  changed();
-}
-
-void Control::setFore(std::optional<Rgb> colour) {
-  if (m_fore == colour) return;
-  m_fore = colour;
-  changed();
-}
-
-void Control::setAside(bool aside) {
-  if (m_aside == aside) return;
-  m_aside = aside;
-  changed();
-}
-
-void Control::setToolTip(std::string text) {
-  m_toolTip = std::move(text);
-  changed();
-}
-
-void Control::doubleClick() {
-  m_form.perform(m_doubleClick);
-}
-
-void Control::fire() {
-  m_form.perform(m_event);
-}
-
-void Control::changed() {
-  if (m_listener) m_listener();
-}
 
 Button::Button(Form& form, std::string name, std::string caption, std::string toolTip)
     : Control(form, std::move(name)), m_caption(std::move(caption)) {
@@ -253,30 +154,6 @@ void Calendar::set(std::string date) {
   m_date = std::move(date);
   changed();
   fire();
-}
-
-void GridControl::setEmptyText(std::string text) {
-  if (m_emptyText == text) return;
-  m_emptyText = std::move(text);
-  changed();
-}
-
-void GridControl::clickCell(int row, int column) {
-  if (row >= headingRows()) setCurrent(row, column);
-  if (m_click) form().perform([&] { m_click(row, column); });
-}
-
-void GridControl::doubleClickCell(int row, int column) {
-  if (row >= headingRows()) setCurrent(row, column);
-  if (m_cellDoubleClick) form().perform([&] { m_cellDoubleClick(row, column); });
-}
-
-bool GridControl::edit(int row, int column, const std::string& text) {
-  const std::vector<std::string>* const allowed = choices(column);
-  if (allowed == nullptr || row < headingRows() || row >= rows()) return false;
-  if (std::find(allowed->begin(), allowed->end(), text) == allowed->end()) return false;
-  setText(row, column, text);
-  return true;
 }
 
 }  // namespace trv5

@@ -1,109 +1,16 @@
 #pragma once
 
-#include <functional>
-#include <map>
-#include <memory>
-#include <optional>
 #include <set>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
-#include "core/grid.h"
-#include "core/palette.h"
-#include "core/shell.h"
+#include "core/control.h"
+#include "core/control_array.h"
+#include "core/form.h"
+#include "core/grid_control.h"
 
 namespace trv5 {
-
-class Control;
-
-/// One screen without its looks: its name, its title, its help context and its controls, found by name. Operations read
-/// and write the controls; the window and the console show and drive the same ones.
-class Form {
- public:
-  Form(Shell& shell, std::string name, std::string title, int helpContext = 0);
-  virtual ~Form();
-  Form(const Form&) = delete;
-  Form& operator=(const Form&) = delete;
-
-  Shell& shell() const { return m_shell; }
-  const std::string& name() const { return m_name; }
-  const std::string& title() const { return m_title; }
-  void setTitle(std::string title);
-  int helpContext() const { return m_helpContext; }
-  void setHelpContext(int context) { m_helpContext = context; }
-
-  /// Null when there is none of that name.
-  Control* find(std::string_view name) const;
-  const std::vector<Control*>& controls() const { return m_controls; }
-  /// The control of that name and kind; throws std::logic_error when there is none.
-  template <class Kind>
-  Kind& get(std::string_view name) const;
-
-  /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
-  /// that run others call them directly or press their buttons; errors then pass through to the outermost.
-  void perform(const std::function<void()>& operation);
-  /// True while an operation of any form is at work.
-  static bool operationRunning();
-
-  /// Called after a change of the title.
-  std::function<void()> titleChanged;
-
- private:
-  friend class Control;
-  [[noreturn]] static void missing(std::string_view name);
-
-  Shell& m_shell;
-  std::string m_name, m_title;
-  int m_helpContext;
-  std::vector<Control*> m_controls;
-  std::map<std::string, Control*, std::less<>> m_byName;
-};
-
-/// What all controls have in common. A control is a value with a listener (the widget that shows it) and an event (the
-/// operation behind it).
-class Control {
- public:
-  Control(Form& form, std::string name);
-  virtual ~Control() = default;
-  Control(const Control&) = delete;
-  Control& operator=(const Control&) = delete;
-
-  Form& form() const { return m_form; }
-  const std::string& name() const { return m_name; }
-  bool enabled() const { return m_enabled; }
-  void setEnabled(bool enabled);
-  std::optional<Rgb> back() const { return m_back; }
-  std::optional<Rgb> fore() const { return m_fore; }
-  void setBack(std::optional<Rgb> colour);
-  void setFore(std::optional<Rgb> colour);
-  const std::string& toolTip() const { return m_toolTip; }
-  void setToolTip(std::string text);
-  /// True when no operation would read the control's value as things stand: it is shown quietly, and works as ever.
-  bool aside() const { return m_aside; }
-  void setAside(bool aside);
-
-  /// The operation of the control: a click, a pick, a change of value.
-  void onEvent(std::function<void()> operation) { m_event = std::move(operation); }
-  bool hasEvent() const { return static_cast<bool>(m_event); }
-  void onDoubleClick(std::function<void()> operation) { m_doubleClick = std::move(operation); }
-  bool hasDoubleClick() const { return static_cast<bool>(m_doubleClick); }
-  void doubleClick();
-  /// The view that follows the control's value and looks.
-  void setListener(std::function<void()> listener) { m_listener = std::move(listener); }
-
- protected:
-  void fire();
-  void changed();
-
- private:
-  Form& m_form;
-  std::string m_name;
-  bool m_enabled = true, m_aside = false;
-  std::optional<Rgb> m_back, m_fore;
-  std::string m_toolTip;
-  std::function<void()> m_event, m_doubleClick, m_listener;
-};
 
 /// A button. Its caption carries no mnemonic: mnemonics belong to the layout.
 class Button : public Control {
@@ -261,70 +168,5 @@ class Calendar : public Control {
  private:
   std::string m_date;
 };
-
-/// A grid on a screen.
-class GridControl : public Control, public Grid {
- public:
-  GridControl(Form& form, std::string name, std::string_view heading) : Control(form, std::move(name)), Grid(heading) {}
-  GridControl(Form& form, std::string name, int rows, int columns)
-      : Control(form, std::move(name)), Grid(rows, columns) {}
-  GridControl(const GridControl&) = delete;
-  GridControl& operator=(const GridControl&) = delete;
-  /// Replaces the grid's contents.
-  Grid& grid() { return *this; }
-  const Grid& grid() const { return *this; }
-
-  void onCellClick(std::function<void(int row, int column)> operation) { m_click = std::move(operation); }
-  void onCellDoubleClick(std::function<void(int row, int column)> operation) {
-    m_cellDoubleClick = std::move(operation);
-  }
-  /// Shown in the middle of the empty grid, given the grid's state.
-  void setEmptyText(std::string text);
-  const std::string& emptyText() const { return m_emptyText; }
-  /// True when a click is a toggle, so that Space and dragging do the same.
-  bool hasCellClick() const { return static_cast<bool>(m_click); }
-
-  /// The user's click: makes the cell current (a heading row never), then runs the operation.
-  void clickCell(int row, int column);
-  void doubleClickCell(int row, int column);
-  /// Writes an editable cell. False when the cell isn't editable or the text isn't one of its choices.
-  bool edit(int row, int column, const std::string& text);
-  /// The view follows looks (Control) and contents (Grid) by two listeners.
-  using Control::setListener;
-  void setGridListener(std::function<void(const GridChange&)> listener) { Grid::setListener(std::move(listener)); }
-
-  // A colour of the control and one of a cell are different things.
-  using Grid::back;
-  using Grid::setBack;
-  using Grid::setFore;
-
- private:
-  std::function<void(int, int)> m_click, m_cellDoubleClick;
-  std::string m_emptyText;
-};
-
-/// A control array: members found by their given index, named "Name_index".
-template <class Kind>
-class ControlArray {
- public:
-  /// Makes one member for each index, handing `arguments` behind the name to each.
-  template <class... Arguments>
-  ControlArray(Form& form, const std::string& name, std::initializer_list<int> indices, const Arguments&... arguments) {
-    for (int i : indices) m_members[i] = std::make_unique<Kind>(form, name + "_" + std::to_string(i), arguments...);
-  }
-  Kind& operator[](int index) const { return *m_members.at(index); }
-  auto begin() const { return m_members.begin(); }
-  auto end() const { return m_members.end(); }
-
- private:
-  std::map<int, std::unique_ptr<Kind>> m_members;
-};
-
-template <class Kind>
-Kind& Form::get(std::string_view name) const {
-  Kind* const control = dynamic_cast<Kind*>(find(name));
-  if (control == nullptr) missing(name);
-  return *control;
-}
 
 }  // namespace trv5

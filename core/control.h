@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "core/palette.h"
+
+namespace trv5 {
+
+class Form;
+
+/// What all controls have in common. A control is a value with a listener (the widget that shows it) and an event (the
+/// operation behind it).
+class Control {
+ public:
+  Control(Form& form, std::string name);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  Form& form() const { return m_form; }
+  const std::string& name() const { return m_name; }
+  bool enabled() const { return m_enabled; }
+  void setEnabled(bool enabled);
+  std::optional<Rgb> back() const { return m_back; }
+  std::optional<Rgb> fore() const { return m_fore; }
+  void setBack(std::optional<Rgb> colour);
+  void setFore(std::optional<Rgb> colour);
+  const std::string& toolTip() const { return m_toolTip; }
+  void setToolTip(std::string text);
+  /// True when no operation would read the control's value as things stand: it is shown quietly, and works as ever.
+  bool aside() const { return m_aside; }
+  void setAside(bool aside);
+
+  /// The operation of the control: a click, a pick, a change of value.
+  void onEvent(std::function<void()> operation) { m_event = std::move(operation); }
+  bool hasEvent() const { return static_cast<bool>(m_event); }
+  void onDoubleClick(std::function<void()> operation) { m_doubleClick = std::move(operation); }
+  bool hasDoubleClick() const { return static_cast<bool>(m_doubleClick); }
+  void doubleClick();
+  /// The view that follows the control's value and looks.
+  void setListener(std::function<void()> listener) { m_listener = std::move(listener); }
+
+ protected:
+  void fire();
+  void changed();
+
+ private:
+  Form& m_form;
+  std::string m_name;
+  bool m_enabled = true, m_aside = false;
+  std::optional<Rgb> m_back, m_fore;
+  std::string m_toolTip;
+  std::function<void()> m_event, m_doubleClick, m_listener;
+};
+
+}  // namespace trv5
