@@ -6,18 +6,6 @@
 #include "core/errors.h"
 
 namespace trv5 {
-namespace {
-
-// Operations nest across forms (one may open another screen and drive it), so the depth is the program's.
-int g_depth = 0;
-
-struct Depth {
-  Depth() { ++g_depth; }
-  ~Depth() { --g_depth; }
-};
-
-}  // namespace
-
 Form::Form(Shell& shell, std::string name, std::string title, int helpContext)
     : m_shell(shell), m_name(std::move(name)), m_title(std::move(title)), m_helpContext(helpContext) {}
 
@@ -39,23 +27,20 @@ void Form::missing(std::string_view name) {
 
 void Form::perform(const std::function<void()>& operation) {
   if (!operation) return;
-  if (g_depth > 0) {
-    const Depth depth;
+  OperationDepth& depth = m_shell.operations();
+  if (depth.running()) {
+    const OperationDepth::Step step(depth);
     operation();
     return;
   }
   try {
-    const Depth depth;
+    const OperationDepth::Step step(depth);
     operation();
   } catch (const UserError& error) {
     m_shell.message({.text = error.what(), .title = error.title(), .icon = Icon::Critical});
   } catch (const std::exception& error) {
     m_shell.message({.text = std::string("Errore imprevisto: ") + error.what(), .icon = Icon::Critical});
   }
-}
-
-bool Form::operationRunning() {
-  return g_depth > 0;
 }
 
 }  // namespace trv5

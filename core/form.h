@@ -38,8 +38,6 @@ class Form {
   /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
   /// that run others call them directly or press their buttons; errors then pass through to the outermost.
   void perform(const std::function<void()>& operation);
-  /// True while an operation of any form is at work.
-  static bool operationRunning();
 
   /// Called after a change of the title.
   std::function<void()> titleChanged;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/grid.h"
+#include "core/operation_depth.h"
 
 namespace trv5 {
 
@@ -88,6 +89,12 @@ class Shell {
   virtual DateTime now() = 0;
   /// Ends the program.
   virtual void quit() = 0;
+
+  /// The operations at work on the forms of this program.
+  OperationDepth& operations() { return m_operations; }
+
+ private:
+  OperationDepth m_operations;
 };
 
 }  // namespace trv5

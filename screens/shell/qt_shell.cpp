@@ -191,7 +191,7 @@ void QtShell::close(std::string_view screen) {
 }
 
 void QtShell::purge() {
-  if (Form::operationRunning()) {
+  if (operations().running()) {
     QTimer::singleShot(50, this, &QtShell::purge);
     return;
   }
