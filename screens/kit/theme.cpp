@@ -20,12 +20,11 @@ static void initScreensResources() {
 namespace trv5 {
 namespace {
 
-Theme* g_theme = nullptr;
-
 // Layouts that set no spacing of their own take the unit, so that they follow a change of density or font.
 class UnitStyle : public QProxyStyle {
  public:
-  UnitStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+  explicit UnitStyle(const Theme& theme)
+      : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))), m_theme(theme) {}
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     // Qt's own dialogs are laid out as Qt means them.
@@ -33,7 +32,7 @@ class UnitStyle : public QProxyStyle {
     switch (metric) {
       case PM_LayoutHorizontalSpacing:
       case PM_LayoutVerticalSpacing:
-        if (own) return Theme::current().unit();
+        if (own) return m_theme.unit();
         break;
       case PM_LayoutLeftMargin:
       case PM_LayoutTopMargin:
@@ -46,7 +45,7 @@ class UnitStyle : public QProxyStyle {
       case PM_SmallIconSize:
         return 18;
       case PM_SplitterWidth:
-        return Theme::current().unit();
+        return m_theme.unit();
       default:
         break;
     }
@@ -75,13 +74,15 @@ class UnitStyle : public QProxyStyle {
   }
 
  private:
-  static int padding(PixelMetric metric, const QWidget& widget) {
-    const int padding = Theme::current().panelPadding();
+  int padding(PixelMetric metric, const QWidget& widget) const {
+    const int padding = m_theme.panelPadding();
     // The page of a tab has its own: the line below the tabs runs over the whole panel, and parts them at the top.
     if (widget.property("page").toBool()) return metric == PM_LayoutTopMargin ? 0 : padding;
     const bool padded = widget.isWindow() || (widget.property("panel").toBool() && !widget.property("bare").toBool());
     return padded ? padding : 0;
   }
+
+  const Theme& m_theme;
 };
 
 QPalette paletteOf(const ChromeColours& c) {
@@ -121,15 +122,21 @@ bool desktopIsDark() {
 }  // namespace
 
 Theme::Theme(QApplication& app) : m_app(app), m_dark(desktopIsDark()) {
-  assert(g_theme == nullptr);
-  g_theme = this;
+  assert(of(app) == nullptr);
+  setParent(&app);
   initScreensResources();
-  m_app.setStyle(new UnitStyle);
+  m_app.setStyle(new UnitStyle(*this));
   apply();
 }
 
 Theme::~Theme() {
-  g_theme = nullptr;
+  // The style asks the theme as long as it is in use.
+  m_app.setStyleSheet(QString());
+  m_app.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+Theme* Theme::of(const QApplication& app) {
+  return app.findChild<Theme*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 const Theme& Theme::current() {
@@ -137,8 +144,9 @@ const Theme& Theme::current() {
 }
 
 Theme& Theme::edit() {
-  assert(g_theme != nullptr);
-  return *g_theme;
+  Theme* const theme = of(*qApp);
+  assert(theme != nullptr);
+  return *theme;
 }
 
 void Theme::setDark(bool dark) {

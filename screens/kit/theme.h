@@ -73,8 +73,9 @@ inline QString qs(const std::string& text) {
   return QString::fromStdString(text);
 }
 
-/// Gives the program its looks: Fusion, the palette, the type scale and one style sheet. Made once, in main, before the
-/// first widget; widgets ask it for colours and sizes and follow `changed`.
+/// Gives the program its looks: Fusion, the palette, the type scale and one style sheet. Made once, in main, after the
+/// application, which it belongs to, and before the first widget; it goes after the last widget and before the
+/// application. Widgets ask it for colours and sizes and follow `changed`.
 class Theme : public QObject {
   Q_OBJECT
  public:
@@ -82,7 +83,7 @@ class Theme : public QObject {
 
   explicit Theme(QApplication& app);
   ~Theme() override;
-  /// The one of the running program.
+  /// The one of the running application.
   static const Theme& current();
   static Theme& edit();
 
@@ -122,6 +123,7 @@ class Theme : public QObject {
   void changed();
 
  private:
+  static Theme* of(const QApplication& app);
   int lineHeight() const;
   void apply();
 
