@@ -1,7 +1,6 @@
 #include "screens/kit/icons.h"
 
 #include <QFile>
-#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -12,20 +11,15 @@ namespace trv5 {
 namespace {
 
 QByteArray drawing(const QString& name) {
-  static QHash<QString, QByteArray> read;
-  auto it = read.find(name);
-  if (it == read.end()) {
-    QFile file(QStringLiteral(":/screens/icons/%1.svg").arg(name));
-    it = read.insert(name, file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
-  }
-  return *it;
+  QFile file(QStringLiteral(":/screens/icons/%1.svg").arg(name));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 // The drawings are black; the colour of the moment takes its place.
-QPixmap rendered(const QString& name, const QSize& pixels, const QColor& colour) {
+QPixmap rendered(QByteArray drawing, const QSize& pixels, const QColor& colour) {
   QPixmap pixmap(pixels);
   pixmap.fill(Qt::transparent);
-  QSvgRenderer renderer(drawing(name).replace("#000000", colour.name().toLatin1()));
+  QSvgRenderer renderer(drawing.replace("#000000", colour.name().toLatin1()));
   QPainter painter(&pixmap);
   const int side = qMin(pixels.width(), pixels.height());
   renderer.render(&painter, QRectF(0, 0, side, side));
@@ -50,7 +44,7 @@ QColor colourOf(IconInk ink, QIcon::Mode mode) {
 
 class LineIcon : public QIconEngine {
  public:
-  LineIcon(QString name, IconInk ink) : m_name(std::move(name)), m_ink(ink) {}
+  LineIcon(QByteArray drawing, IconInk ink) : m_drawing(std::move(drawing)), m_ink(ink) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     const qreal ratio = painter->device()->devicePixelRatio();
@@ -63,15 +57,15 @@ class LineIcon : public QIconEngine {
     const QColor colour = colourOf(m_ink, mode);
     // Room asked for beyond the square parts the picture from the caption at its right.
     if (m_last.isNull() || m_last.size() != size || m_lastColour != colour) {
-      m_last = rendered(m_name, size, colour);
+      m_last = rendered(m_drawing, size, colour);
       m_lastColour = colour;
     }
     return m_last;
   }
-  QIconEngine* clone() const override { return new LineIcon(m_name, m_ink); }
+  QIconEngine* clone() const override { return new LineIcon(m_drawing, m_ink); }
 
  private:
-  QString m_name;
+  QByteArray m_drawing;
   IconInk m_ink;
   QPixmap m_last;  // a button asks for the same picture at each painting
   QColor m_lastColour;
@@ -80,7 +74,7 @@ class LineIcon : public QIconEngine {
 }  // namespace
 
 QIcon icon(const QString& name, IconInk ink) {
-  return QIcon(new LineIcon(name, ink));
+  return QIcon(new LineIcon(drawing(name), ink));
 }
 
 QIcon programMark() {
