@@ -1,12 +1,26 @@
 #include "core/control.h"
 
+#include <stdexcept>
+#include <vector>
+
 #include "core/form.h"
 
 namespace trv5 {
 
 Control::Control(Form& form, std::string name) : m_form(form), m_name(std::move(name)) {
+  if (!m_form.m_byName.emplace(m_name, this).second)
+    throw std::logic_error("two controls of " + form.name() + " are named " + m_name);
   m_form.m_controls.push_back(this);
-  m_form.m_byName[m_name] = this;
+}
+
+Control::~Control() {
+  m_form.m_byName.erase(m_name);
+  std::erase(m_form.m_controls, this);
+}
+
+void Control::setListener(std::function<void()> listener) {
+  if (m_listener && listener) throw std::logic_error("a second view of " + m_name);
+  m_listener = std::move(listener);
 }
 
 void Control::setEnabled(bool enabled) {

@@ -14,8 +14,9 @@ class Form;
 /// operation behind it).
 class Control {
  public:
+  /// Throws std::logic_error when the form has a control of that name.
   Control(Form& form, std::string name);
-  virtual ~Control() = default;
+  virtual ~Control();
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
@@ -39,8 +40,9 @@ class Control {
   void onDoubleClick(std::function<void()> operation) { m_doubleClick = std::move(operation); }
   bool hasDoubleClick() const { return static_cast<bool>(m_doubleClick); }
   void doubleClick();
-  /// The view that follows the control's value and looks.
-  void setListener(std::function<void()> listener) { m_listener = std::move(listener); }
+  /// The view that follows the control's value and looks; empty when it goes. Throws std::logic_error when the control
+  /// has one: two widgets that show one control are a mistake of the layout.
+  void setListener(std::function<void()> listener);
 
  protected:
   void fire();

@@ -4,6 +4,7 @@
 #include <cassert>
 #include <charconv>
 #include <numeric>
+#include <stdexcept>
 
 #include "core/text.h"
 
@@ -262,6 +263,11 @@ const std::vector<std::string>* Grid::choices(int column) const {
 
 void Grid::setChoices(int column, std::vector<std::string> choices) {
   m_choices[column] = std::move(choices);
+}
+
+void Grid::setListener(std::function<void(const GridChange&)> listener) {
+  if (m_listener && listener) throw std::logic_error("a second listener of a grid");
+  m_listener = std::move(listener);
 }
 
 void Grid::notify(GridChange change) {

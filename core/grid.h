@@ -119,8 +119,9 @@ class Grid {
   /// Equal when all that a user could see or an operation read is equal.
   bool operator==(const Grid& other) const;
 
-  /// Called after each change, or once after a batch.
-  void setListener(std::function<void(const GridChange&)> listener) { m_listener = std::move(listener); }
+  /// Called after each change, or once after a batch; empty when who listens goes. Throws std::logic_error when the
+  /// grid has a listener.
+  void setListener(std::function<void(const GridChange&)> listener);
 
   /// Groups all changes made during its life into one notice.
   class Batch {

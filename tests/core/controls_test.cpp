@@ -33,6 +33,58 @@ TEST_F(Controls, AFormFindsItsControlsByNameAndKind) {
   EXPECT_EQ(form.controls().size(), 2u);
 }
 
+TEST_F(Controls, ANameGivenTwiceInAFormIsAMistakeOfTheProgram) {
+  Button first(form, "Command1");
+  EXPECT_THROW(Text(form, "Command1"), std::logic_error);
+  EXPECT_EQ(form.find("Command1"), &first);
+  EXPECT_EQ(form.controls().size(), 1u);
+}
+
+TEST_F(Controls, AControlThatIsGoneIsFoundNoMore) {
+  { const Button passing(form, "Command1"); }
+  EXPECT_EQ(form.find("Command1"), nullptr);
+  EXPECT_TRUE(form.controls().empty());
+  const Text next(form, "Command1");
+  EXPECT_EQ(form.find("Command1"), &next);
+}
+
+TEST_F(Controls, AControlHasOneViewUntilThatGoes) {
+  Label label(form, "Label1");
+  GridControl grid(form, "FgEv", "A");
+  label.setListener(count(notices));
+  EXPECT_THROW(label.setListener(count(events)), std::logic_error);
+  grid.setGridListener([&](const GridChange&) { ++notices; });
+  EXPECT_THROW(grid.setGridListener([&](const GridChange&) { ++events; }), std::logic_error);
+  label.setText("uno");
+  grid.appendRow();
+  EXPECT_EQ(notices, 2) << "the first ones stay";
+
+  label.setListener({});
+  label.setListener(count(events));
+  grid.setGridListener({});
+  grid.setGridListener([&](const GridChange&) { ++events; });
+  label.setText("due");
+  grid.appendRow();
+  EXPECT_EQ(notices, 2);
+  EXPECT_EQ(events, 2);
+}
+
+TEST_F(Controls, EachProgramCountsItsOwnRunningOperations) {
+  FakeShell other;
+  Form otherForm(other, "Altro", "Altro");
+  form.perform([&] {
+    EXPECT_TRUE(shell.operations().running());
+    EXPECT_FALSE(other.operations().running());
+    // An error of the other program is shown there, and this one goes on.
+    otherForm.perform([] { throw UserError("Là"); });
+    ++events;
+  });
+  EXPECT_EQ(other.texts(), std::vector<std::string>{"Là"});
+  EXPECT_TRUE(shell.texts().empty());
+  EXPECT_EQ(events, 1);
+  EXPECT_FALSE(shell.operations().running());
+}
+
 TEST_F(Controls, AFormTellsAChangeOfItsTitle) {
   form.titleChanged = count(notices);
   form.setTitle("Altro");
