@@ -337,5 +337,15 @@ TEST_F(Controls, AnArrayNamesItsMembersByTheirIndex) {
   EXPECT_THROW(array[3], std::out_of_range);
 }
 
+TEST_F(Controls, AnArrayTakesARangeOfIndicesBothEndsIncluded) {
+  ControlArray<Text> boxes(form, "txtin", range(1, 55), 2);
+  EXPECT_EQ(std::distance(boxes.begin(), boxes.end()), 55);
+  EXPECT_EQ(boxes[1].name(), "txtin_1");
+  EXPECT_EQ(form.find("txtin_55"), &boxes[55]);
+  EXPECT_EQ(boxes[55].maximumLength(), 2);
+  EXPECT_THROW(boxes[0], std::out_of_range);
+  EXPECT_THROW(boxes[56], std::out_of_range);
+}
+
 }  // namespace
 }  // namespace trv5
