@@ -14,18 +14,21 @@ Control::Control(Form& form, std::string name) : m_form(form), m_name(std::move(
 }
 
 Control::~Control() {
+  if (hasFocus()) m_form.m_focused = nullptr;
   m_form.m_byName.erase(m_name);
   std::erase(m_form.m_controls, this);
 }
 
-void Control::setListener(std::function<void()> listener) {
+void Control::setListener(std::function<void()> listener, std::function<void()> takeFocus) {
   if (m_listener && listener) throw std::logic_error("a second view of " + m_name);
   m_listener = std::move(listener);
+  m_takeFocus = std::move(takeFocus);
 }
 
 void Control::setEnabled(bool enabled) {
   if (m_enabled == enabled) return;
   m_enabled = enabled;
+  if (!enabled) left();
   changed();
 }
 
@@ -55,6 +58,39 @@ void Control::setToolTip(std::string text) {
 void Control::doubleClick() {
   m_form.perform(m_doubleClick);
 }
+
+void Control::focus() {
+  if (!m_enabled) return;
+  m_form.moveFocus(this);
+  // What ran on the way may have given it elsewhere.
+  if (hasFocus() && m_takeFocus) m_takeFocus();
+}
+
+bool Control::hasFocus() const {
+  return m_form.focused() == this;
+}
+
+void Control::entered() {
+  m_form.moveFocus(this);
+}
+
+void Control::left() {
+  if (hasFocus()) m_form.moveFocus(nullptr);
+}
+
+bool Control::offerKey(const Key& key) {
+  if (!m_key) return false;
+  bool taken = true;
+  m_form.perform([&] { taken = m_key(key); });
+  return taken;
+}
+
+void Control::key(const Key& key) {
+  focus();
+  if (hasFocus() && !offerKey(key)) keyPassed(key);
+}
+
+void Control::keyPassed(const Key&) {}
 
 void Control::fire() {
   m_form.perform(m_event);

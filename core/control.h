@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/key.h"
 #include "core/palette.h"
 
 namespace trv5 {
@@ -40,21 +41,44 @@ class Control {
   void onDoubleClick(std::function<void()> operation) { m_doubleClick = std::move(operation); }
   bool hasDoubleClick() const { return static_cast<bool>(m_doubleClick); }
   void doubleClick();
+
+  /// Run when the focus comes to the control and when it goes; nothing runs where it stays.
+  void onEnter(std::function<void()> operation) { m_enter = std::move(operation); }
+  void onLeave(std::function<void()> operation) { m_leave = std::move(operation); }
+  /// Run for each key at the control, before the control itself acts on it; true: the key ends there.
+  void onKey(std::function<bool(const Key&)> operation) { m_key = std::move(operation); }
+  /// Gives the control the focus, in the window too; a disabled one doesn't take it.
+  void focus();
+  bool hasFocus() const;
+  /// What the window tells: the user's focus has come here, or has gone.
+  void entered();
+  void left();
+  /// Runs the operation for a key. True when that took it, also by failing: then the key must do nothing else.
+  bool offerKey(const Key& key);
+  /// The user's key at the control, which gets the focus, where there is no window: what the operation lets pass does
+  /// to the control what it does on screen.
+  void key(const Key& key);
+
   /// The view that follows the control's value and looks; empty when it goes. Throws std::logic_error when the control
-  /// has one: two widgets that show one control are a mistake of the layout.
-  void setListener(std::function<void()> listener);
+  /// has one: two widgets that show one control are a mistake of the layout. `takeFocus` is called when an operation
+  /// gives the control the focus.
+  void setListener(std::function<void()> listener, std::function<void()> takeFocus = {});
 
  protected:
   void fire();
   void changed();
+  /// What a key does to the control by itself.
+  virtual void keyPassed(const Key& key);
 
  private:
+  friend class Form;
   Form& m_form;
   std::string m_name;
   bool m_enabled = true, m_aside = false;
   std::optional<Rgb> m_back, m_fore;
   std::string m_toolTip;
-  std::function<void()> m_event, m_doubleClick, m_listener;
+  std::function<void()> m_event, m_doubleClick, m_enter, m_leave, m_listener, m_takeFocus;
+  std::function<bool(const Key&)> m_key;
 };
 
 }  // namespace trv5

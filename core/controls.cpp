@@ -90,9 +90,67 @@ Text::Text(Form& form, std::string name, int maximumLength)
 
 void Text::set(std::string text) {
   if (m_text == text) return;
+  const int end = characterCount(text);
+  edit(std::move(text), end);
+}
+
+void Text::edit(std::string text, int cursor) {
+  if (m_text == text) return select(cursor, 0);
   m_text = std::move(text);
+  m_start = std::clamp(cursor, 0, characterCount(m_text));
+  m_length = 0;
   changed();
   fire();
+}
+
+void Text::type(std::string_view text) {
+  const std::size_t begin = byteOfCharacter(m_text, m_start), end = byteOfCharacter(m_text, m_start + m_length);
+  const int room = m_maximumLength - (characterCount(m_text) - m_length);
+  text = text.substr(0, byteOfCharacter(text, std::max(0, room)));
+  edit(m_text.substr(0, begin).append(text).append(m_text, end), m_start + characterCount(text));
+}
+
+void Text::erase(int start, int length) {
+  if (start < 0) return;
+  select(start, length);
+  type({});
+}
+
+void Text::select(int start, int length) {
+  const int count = characterCount(m_text);
+  start = std::clamp(start, 0, count);
+  length = std::clamp(length, 0, count - start);
+  if (m_start == start && m_length == length) return;
+  m_start = start;
+  m_length = length;
+  changed();
+}
+
+void Text::selectAll() {
+  select(0, characterCount(m_text));
+}
+
+void Text::keyPassed(const Key& key) {
+  if (key.control || key.alt) return;
+  const bool some = m_length > 0;
+  switch (key.code) {
+    case Key::Code::Character:
+      return type(key.text);
+    case Key::Code::Backspace:
+      return some ? type({}) : erase(m_start - 1, 1);
+    case Key::Code::Delete:
+      return some ? type({}) : erase(m_start, 1);
+    case Key::Code::Left:
+      return select(some ? m_start : m_start - 1, 0);
+    case Key::Code::Right:
+      return select(some ? m_start + m_length : m_start + 1, 0);
+    case Key::Code::Home:
+      return select(0, 0);
+    case Key::Code::End:
+      return select(characterCount(m_text), 0);
+    default:
+      return;
+  }
 }
 
 Scroll::Scroll(Form& form, std::string name, int minimum, int maximum)

@@ -2,6 +2,7 @@
 
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -83,18 +84,34 @@ class Check : public Control {
   bool m_checked = false;
 };
 
-/// A box for a line of text.
+/// A box for a line of text, with the part of it that is selected, in characters: without a part the cursor alone.
 class Text : public Control {
  public:
   Text(Form& form, std::string name, int maximumLength = 32767);
   const std::string& text() const { return m_text; }
   int maximumLength() const { return m_maximumLength; }
-  /// Fires only when the text changes.
+  /// Puts the cursor at the end. Fires only when the text changes.
   void set(std::string text);
+  /// The user's change, which leaves the cursor at `cursor`. Fires only when the text changes.
+  void edit(std::string text, int cursor);
+  /// The user's typing: `text` takes the place of what is selected, as far as it finds room.
+  void type(std::string_view text);
+
+  int selectionStart() const { return m_start; }
+  int selectionLength() const { return m_length; }
+  /// What lies outside the text is left out.
+  void select(int start, int length);
+  void selectAll();
+
+ protected:
+  void keyPassed(const Key& key) override;
 
  private:
+  void erase(int start, int length);
+
   std::string m_text;
   int m_maximumLength;
+  int m_start = 0, m_length = 0;
 };
 
 /// A scroll bar.

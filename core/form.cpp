@@ -1,6 +1,7 @@
 #include "core/form.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "core/control.h"
 #include "core/errors.h"
@@ -23,6 +24,14 @@ Control* Form::find(std::string_view name) const {
 
 void Form::missing(std::string_view name) {
   throw std::logic_error("no such control: " + std::string(name));
+}
+
+void Form::moveFocus(Control* to) {
+  if (m_focused == to) return;
+  if (Control* const from = std::exchange(m_focused, nullptr)) perform(from->m_leave);
+  if (m_focused != nullptr) return;  // what ran on leaving gave the focus elsewhere
+  m_focused = to;
+  if (to != nullptr) perform(to->m_enter);
 }
 
 void Form::perform(const std::function<void()>& operation) {

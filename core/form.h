@@ -35,6 +35,9 @@ class Form {
   template <class Kind>
   Kind& get(std::string_view name) const;
 
+  /// The control that has the focus among those of this form; null for none.
+  Control* focused() const { return m_focused; }
+
   /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
   /// that run others call them directly or press their buttons; errors then pass through to the outermost.
   void perform(const std::function<void()>& operation);
@@ -45,10 +48,12 @@ class Form {
  private:
   friend class Control;
   [[noreturn]] static void missing(std::string_view name);
+  void moveFocus(Control* to);
 
   Shell& m_shell;
   std::string m_name, m_title;
   int m_helpContext;
+  Control* m_focused = nullptr;
   std::vector<Control*> m_controls;
   std::map<std::string, Control*, std::less<>> m_byName;
 };

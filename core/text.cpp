@@ -12,6 +12,11 @@ bool isBlank(char c) {
   return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
+// Of the bytes of a UTF-8 character only the first isn't 10xxxxxx.
+bool beginsCharacter(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+}
+
 }  // namespace
 
 int numberOf(std::string_view text) {
@@ -48,6 +53,17 @@ std::vector<int> numbersEveryThree(std::string_view text) {
   std::vector<int> numbers;
   for (std::size_t at = 0; at < text.size(); at += 3) numbers.push_back(numberOf(text.substr(at, 2)));
   return numbers;
+}
+
+int characterCount(std::string_view text) {
+  return static_cast<int>(std::count_if(text.begin(), text.end(), beginsCharacter));
+}
+
+std::size_t byteOfCharacter(std::string_view text, int character) {
+  std::size_t byte = 0;
+  for (; byte < text.size(); ++byte)
+    if (beginsCharacter(text[byte]) && character-- <= 0) break;
+  return byte;
 }
 
 std::string asciiText(std::string_view text) {

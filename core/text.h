@@ -23,6 +23,12 @@ std::vector<std::string> split(std::string_view text, char separator);
 /// as numberOf reads it, 0 included.
 std::vector<int> numbersEveryThree(std::string_view text);
 
+/// The number of characters, not bytes, of a UTF-8 text.
+int characterCount(std::string_view text);
+
+/// The byte at which the character `character`, from 0, begins; the end of the text for those beyond it.
+std::size_t byteOfCharacter(std::string_view text, int character);
+
 /// `text` with '?' in place of each character beyond ASCII, so that places count characters and not bytes.
 std::string asciiText(std::string_view text);
 
