@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -17,9 +16,11 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "core/text.h"
 #include "screens/kit/click_label.h"
 #include "screens/kit/ink.h"
 #include "screens/kit/theme.h"
+#include "screens/kit/user_events.h"
 
 namespace trv5 {
 namespace {
@@ -30,28 +31,15 @@ class Link : public QObject {
   Link(QWidget& widget, Control& control, std::function<void()> follow)
       : QObject(&widget), m_widget(widget), m_control(control) {
     widget.setObjectName(qs(control.name()));
-    control.setListener([this, follow = std::move(follow)] {
-      followLooks();
-      follow();
-    });
-    widget.installEventFilter(this);
+    control.setListener(
+        [this, follow = std::move(follow)] {
+          followLooks();
+          follow();
+        },
+        [&widget] { widget.setFocus(Qt::OtherFocusReason); });
+    new UserEvents(widget, control);
   }
   ~Link() override { m_control.setListener({}); }
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (watched == &m_widget) {
-      if (event->type() == QEvent::MouseButtonDblClick && m_control.hasDoubleClick()) {
-        m_control.doubleClick();
-        return true;
-      }
-      // A list under the mouse must not change while the user scrolls the page.
-      if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(&m_widget) != nullptr && !m_widget.hasFocus()) {
-        event->ignore();
-        return true;
-      }
-    }
-    return QObject::eventFilter(watched, event);
-  }
 
   void followLooks() {
     m_widget.setEnabled(m_control.enabled());
@@ -85,6 +73,25 @@ class Link : public QObject {
   QWidget& m_widget;
   Control& m_control;
 };
+
+// A line edit counts UTF-16 units, a control characters.
+int charactersBefore(const QString& text, int unit) {
+  return characterCount(text.left(unit).toStdString());
+}
+
+int unitsBefore(const std::string& text, int character) {
+  return static_cast<int>(qs(text.substr(0, byteOfCharacter(text, character))).size());
+}
+
+void showSelection(QLineEdit& widget, const Text& control) {
+  const int start = unitsBefore(control.text(), control.selectionStart());
+  const int length = unitsBefore(control.text(), control.selectionStart() + control.selectionLength()) - start;
+  if (length == 0) {
+    if (widget.hasSelectedText() || widget.cursorPosition() != start) widget.setCursorPosition(start);
+  } else if (widget.selectionStart() != start || widget.selectionLength() != length) {
+    widget.setSelection(start, length);
+  }
+}
 
 void setCaption(QAbstractButton& widget, const std::string& caption, QChar mnemonic) {
   const QString text = withMnemonic(caption, mnemonic);
@@ -182,12 +189,22 @@ void bind(QComboBox& widget, Combo& control) {
 void bind(QLineEdit& widget, Text& control) {
   widget.setMaxLength(control.maximumLength());
   follow(widget, control, [&widget, &control] {
-    if (widget.text() == qs(control.text())) return;
     const QSignalBlocker quiet(widget);
-    widget.setText(qs(control.text()));
+    if (widget.text() != qs(control.text())) widget.setText(qs(control.text()));
+    showSelection(widget, control);
   });
-  QObject::connect(&widget, &QLineEdit::textChanged, &widget,
-                   [&control](const QString& text) { control.set(text.toStdString()); });
+  QObject::connect(&widget, &QLineEdit::textChanged, &widget, [&widget, &control](const QString& text) {
+    control.edit(text.toStdString(), charactersBefore(text, widget.cursorPosition()));
+  });
+  const auto select = [&widget, &control] {
+    // In the middle of a change the text comes by itself, and brings the cursor.
+    if (widget.text() != qs(control.text())) return;
+    const int start = widget.hasSelectedText() ? widget.selectionStart() : widget.cursorPosition();
+    const int before = charactersBefore(widget.text(), start);
+    control.select(before, charactersBefore(widget.text(), start + widget.selectionLength()) - before);
+  };
+  QObject::connect(&widget, &QLineEdit::selectionChanged, &widget, select);
+  QObject::connect(&widget, &QLineEdit::cursorPositionChanged, &widget, select);
 }
 
 void bind(QScrollBar& widget, Scroll& control) {

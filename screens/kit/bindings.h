@@ -21,8 +21,9 @@ namespace trv5 {
 class ClickLabel;
 
 // Ties a widget to a control of a form. The widget takes the control's name as objectName, follows its value, colours,
-// tooltip and enabling, and hands what the user does to the control, whose operation then runs. No rule lives here. One
-// widget shows one control; the form outlives its widgets.
+// tooltip and enabling, and hands what the user does to the control, whose operation then runs: changes of the value,
+// the focus that comes and goes, keys, double clicks. A control that an operation gives the focus takes it to its
+// widget. No rule lives here. One widget shows one control; the form outlives its widgets.
 //
 // `mnemonic` is the letter of the caption that is underlined: mnemonics belong to the layout.
 

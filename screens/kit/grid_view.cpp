@@ -11,6 +11,7 @@
 
 #include "screens/kit/grid_delegate.h"
 #include "screens/kit/theme.h"
+#include "screens/kit/user_events.h"
 
 namespace trv5 {
 
@@ -46,7 +47,8 @@ GridView::GridView(GridControl& grid, GridLook look, QWidget* parent)
     if (m_keepEnd) scrollToBottom();
   });
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &GridView::columnsLaidOut);
-  m_grid.setListener([this] { followControl(); });
+  m_grid.setListener([this] { followControl(); }, [this] { setFocus(Qt::OtherFocusReason); });
+  new UserEvents(*this, grid);
   setLook(m_look);
   followControl();
   followGrid();

@@ -1,0 +1,146 @@
+#include "screens/kit/user_events.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <array>
+#include <utility>
+
+namespace trv5 {
+namespace {
+
+constexpr std::array<std::pair<int, Key::Code>, 15> kCodes = {{{Qt::Key_Return, Key::Code::Enter},
+                                                               {Qt::Key_Enter, Key::Code::Enter},
+                                                               {Qt::Key_Escape, Key::Code::Escape},
+                                                               {Qt::Key_Tab, Key::Code::Tab},
+                                                               {Qt::Key_Backtab, Key::Code::BackTab},
+                                                               {Qt::Key_Left, Key::Code::Left},
+                                                               {Qt::Key_Right, Key::Code::Right},
+                                                               {Qt::Key_Up, Key::Code::Up},
+                                                               {Qt::Key_Down, Key::Code::Down},
+                                                               {Qt::Key_Home, Key::Code::Home},
+                                                               {Qt::Key_End, Key::Code::End},
+                                                               {Qt::Key_PageUp, Key::Code::PageUp},
+                                                               {Qt::Key_PageDown, Key::Code::PageDown},
+                                                               {Qt::Key_Backspace, Key::Code::Backspace},
+                                                               {Qt::Key_Delete, Key::Code::Delete}}};
+
+// With Ctrl an event has a control character for text, or none: the key tells the letter.
+QString characterOf(const QKeyEvent& event) {
+  if (const QString text = event.text(); !text.isEmpty() && text.at(0).isPrint()) return text;
+  return event.key() > Qt::Key_Space && event.key() < Qt::Key_Escape ? QString(QChar(event.key())).toLower()
+                                                                     : QString();
+}
+
+// The focus is the user's, and stays the control's, while a list, a menu or another program is in front.
+bool passing(Qt::FocusReason reason) {
+  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+}  // namespace
+// Across windows too: the open list of a combo is one.
+bool belongsTo(const QObject* part, const QWidget& whole) {
+  while (part != nullptr && part != &whole) part = part->parent();
+  return part != nullptr;
+}
+
+
+Key keyFrom(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = event.modifiers();
+  Key key{.control = held.testFlag(Qt::ControlModifier),
+          .alt = held.testFlag(Qt::AltModifier),
+          .shift = held.testFlag(Qt::ShiftModifier)};
+  for (const auto& [code, meaning] : kCodes) {
+    if (event.key() != code) continue;
+    key.code = meaning;
+    return key;
+  }
+  key.text = characterOf(event).toStdString();
+  if (key.text.empty()) key.code = Key::Code::Other;
+  return key;
+}
+
+UserEvents::UserEvents(QWidget& widget, Control& control)
+    : QObject(&widget),
+      m_widget(widget),
+      m_kind(widget.metaObject()),
+      m_control(control),
+      m_edit(qobject_cast<QLineEdit*>(&widget)) {
+  widget.installEventFilter(this);
+  // The focus of a tab widget is its bar's, that of a calendar its view's.
+  QWidget* last = &widget;
+  while (last->focusProxy() != nullptr) last = last->focusProxy();
+  if (last != &widget) last->installEventFilter(this);
+}
+  m_focused = last;
+  if (const auto* const list = qobject_cast<QComboBox*>(&widget); list != nullptr && list->isEditable()) {
+    m_edit = list->lineEdit();
+    m_edit->installEventFilter(this);
+  }
+
+bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      if (watched == m_focused) focusIn(static_cast<const QFocusEvent&>(*event));
+      break;
+    case QEvent::FocusOut:
+      if (watched == m_focused) focusOut(static_cast<const QFocusEvent&>(*event));
+      break;
+    case QEvent::KeyPress:
+      if (watched == m_focused && m_control.offerKey(keyFrom(static_cast<const QKeyEvent&>(*event)))) return true;
+      break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      if (mousePress(watched, event->type())) return true;
+      break;
+    case QEvent::MouseButtonRelease:
+      mouseRelease(watched);
+      break;
+    case QEvent::Wheel:
+      // A list under the mouse must not change while the user scrolls the page.
+      if (!m_widget.hasFocus() && qobject_cast<QComboBox*>(&m_widget) != nullptr) {
+        event->ignore();
+        return true;
+      }
+      break;
+    default:
+      break;
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void UserEvents::focusIn(const QFocusEvent& event) {
+  m_control.entered();
+  m_clickedIn = event.reason() == Qt::MouseFocusReason && m_edit != nullptr;
+  if (const auto* const text = dynamic_cast<const Text*>(&m_control)) {
+    m_start = text->selectionStart();
+    m_length = text->selectionLength();
+  }
+}
+
+void UserEvents::focusOut(const QFocusEvent& event) {
+  m_clickedIn = false;
+  // The editor of a cell, the buttons of a calendar, an open list are parts of the widget. One that is being destroyed,
+  // and is no more than a plain widget, runs no operation.
+  if (passing(event.reason()) || m_widget.metaObject() != m_kind || belongsTo(QApplication::focusWidget(), m_widget))
+    return;
+  m_control.left();
+}
+
+bool UserEvents::mousePress(const QObject* watched, QEvent::Type type) {
+  if (watched != &m_widget) return false;
+  if (type == QEvent::MouseButtonDblClick && m_control.hasDoubleClick()) {
+    m_control.doubleClick();
+    return true;
+  }
+  return false;
+}
+
+void UserEvents::mouseRelease(const QObject* watched) {
+  if (watched != m_edit || !std::exchange(m_clickedIn, false) || m_edit->hasSelectedText()) return;
+  if (auto* const text = dynamic_cast<Text*>(&m_control)) text->select(m_start, m_length);
+}
+
+}  // namespace trv5
