@@ -169,6 +169,7 @@ void bind(QComboBox& widget, Combo& control) {
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setMaxVisibleItems(20);
   if (control.editable()) widget.setCompleter(nullptr);  // "1" must not grow into "10" under the user's hands
+  widget.setFocusPolicy(Qt::StrongFocus);                // not by the wheel, which would then turn the list
   auto shown = std::make_shared<std::vector<std::string>>();
   follow(widget, control, [&widget, &control, shown] {
     const QSignalBlocker quiet(widget);

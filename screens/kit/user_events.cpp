@@ -5,6 +5,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <array>
 #include <utility>
 
@@ -99,8 +100,9 @@ bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
       mouseRelease(watched);
       break;
     case QEvent::Wheel:
-      // A list under the mouse must not change while the user scrolls the page.
-      if (!m_widget.hasFocus() && qobject_cast<QComboBox*>(&m_widget) != nullptr) {
+      // Who scrolls the page changes no value under the mouse: the wheel is the page's.
+      if (!m_widget.hasFocus() &&
+          (qobject_cast<QComboBox*>(&m_widget) != nullptr || qobject_cast<QScrollBar*>(&m_widget) != nullptr)) {
         event->ignore();
         return true;
       }

@@ -142,25 +142,6 @@ TEST_F(Bindings, ATextTypedIntoAnEditableListIsItsOwnOrAnItem) {
   EXPECT_GT(events, 0);
 }
 
-TEST_F(Bindings, TheWheelChangesAListOnlyWithTheFocus) {
-  Combo control(world.form, "ComboR1");
-  control.setItems({"BA", "CA", "FI"});
-  control.select(1);
-  QWidget window;
-  QLineEdit other(&window);
-  QComboBox widget(&window);
-  widget.move(0, 40);
-  bind(widget, control);
-  shown(window, 200, 100);
-  window.activateWindow();
-  other.setFocus();
-  settle();
-  QWheelEvent wheel(QPointF(5, 5), widget.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
-                    Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&widget, &wheel);
-  EXPECT_EQ(control.index(), 1);
-}
-
 TEST_F(Bindings, ACheckBoxAndItsControlFollowEachOther) {
   Check control(world.form, "Ch_ultima", "Forza ultima");
   QCheckBox widget;

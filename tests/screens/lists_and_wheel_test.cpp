@@ -1,0 +1,96 @@
+// Lists and scroll bars under the wheel.
+#include <gtest/gtest.h>
+#include <qtestspontaneevent.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include "form_world.h"
+#include "screens/kit/kit.h"
+
+namespace trv5 {
+namespace {
+
+// A page longer than its window, with a box, lists and a scroll bar at its top.
+struct Page : testing::Test {
+  Page() {
+    for (Combo* const control : {&filter, &count, &free}) {
+      control->setItems({"1", "2", "10"});
+      control->select(1);
+    }
+    auto* const contents = new QWidget;
+    auto* const layout = new QVBoxLayout(contents);
+    for (QWidget* const widget : std::initializer_list<QWidget*>{box, list, number, text, bar})
+      layout->addWidget(widget);
+    layout->addSpacing(2000);
+    area.setWidgetResizable(true);
+    area.setWidget(contents);
+    shown(area, 300, 300);
+    area.activateWindow();
+    box->setFocus();
+    settle();
+  }
+
+  // As the window system tells it: the focus policy has its say first.
+  void turn(const QWidget& under, int notches) {
+    const QPoint place = under.mapTo(&area, under.rect().center());
+    for (int i = 0; i < notches; ++i) {
+      QWheelEvent wheel(place, area.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+      QSpontaneKeyEvent::setSpontaneous(&wheel);
+      QCoreApplication::instance()->notify(area.windowHandle(), &wheel);
+    }
+  }
+  int scrolled() const { return area.verticalScrollBar()->value(); }
+
+  FormWorld world;
+  Combo filter{world.form, "ComboFiltro"};
+  Combo count{world.form, "ComboNC", Combo::Typing::Yes};
+  Combo free{world.form, "Combo1R_1N", Combo::Typing::Yes};
+  Scroll scroll{world.form, "hs1", 1, 100};
+  Text name{world.form, "Text1"};
+  Kit kit{world.form};
+  QScrollArea area;
+  QLineEdit* box = kit.edit("Text1");
+  QComboBox* list = kit.combo("ComboFiltro");
+  QComboBox* number = kit.combo("ComboNC");
+  QComboBox* text = kit.combo("Combo1R_1N");
+  QScrollBar* bar = kit.scroll("hs1");
+};
+
+TEST_F(Page, TheWheelOverAListScrollsThePage) {
+  for (const QComboBox* const under : {list, number}) {
+    const int before = scrolled();
+    turn(*under, 2);
+    EXPECT_GT(scrolled(), before);
+    EXPECT_FALSE(under->hasFocus());
+    area.verticalScrollBar()->setValue(0);
+  }
+  EXPECT_EQ(filter.index(), 1);
+  EXPECT_EQ(count.index(), 1);
+}
+
+TEST_F(Page, TheWheelOverAScrollBarScrollsThePage) {
+  turn(*bar, 2);
+  EXPECT_EQ(scroll.value(), 1);
+  EXPECT_GT(scrolled(), 0);
+  EXPECT_FALSE(bar->hasFocus());
+}
+
+TEST_F(Page, TheWheelChangesTheValueThatHasTheFocus) {
+  list->setFocus();
+  turn(*list, 1);
+  EXPECT_EQ(filter.index(), 2);
+  bar->setFocus();
+  turn(*bar, 1);
+  EXPECT_GT(scroll.value(), 1);
+  EXPECT_EQ(scrolled(), 0);
+}
+
+}  // namespace
+}  // namespace trv5
