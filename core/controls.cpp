@@ -27,8 +27,7 @@ void Label::setText(std::string text) {
   changed();
 }
 
-Combo::Combo(Form& form, std::string name, Typing typing)
-    : Control(form, std::move(name)), m_editable(typing == Typing::Yes) {}
+Combo::Combo(Form& form, std::string name, Typing typing) : Control(form, std::move(name)), m_typing(typing) {}
 
 void Combo::setItems(std::vector<std::string> items) {
   m_items = std::move(items);
@@ -50,7 +49,7 @@ void Combo::pick(int index) {
 void Combo::type(std::string text) {
   const auto it = std::find(m_items.begin(), m_items.end(), text);
   if (it != m_items.end()) return pick(static_cast<int>(it - m_items.begin()));
-  if (!m_editable || (m_index == -1 && m_text == text)) return;
+  if (!editable() || (m_index == -1 && m_text == text)) return;
   assign(-1, std::move(text));
   fire();
 }

@@ -41,10 +41,12 @@ class Label : public Control {
 /// A list of items of which one is chosen, in an editable one also a typed text (index -1).
 class Combo : public Control {
  public:
-  enum class Typing { No, Yes };
+  /// What the keyboard gives: nothing, digits or any text. A text that comes in another way is never refused.
+  enum class Typing { No, Digits, Yes };
   Combo(Form& form, std::string name, Typing typing = Typing::No);
 
-  bool editable() const { return m_editable; }
+  bool editable() const { return m_typing != Typing::No; }
+  bool digitsOnly() const { return m_typing == Typing::Digits; }
   const std::vector<std::string>& items() const { return m_items; }
   void setItems(std::vector<std::string> items);
   /// The chosen item from 0; -1 for a typed text or none.
@@ -63,7 +65,7 @@ class Combo : public Control {
  private:
   void assign(int index, std::string text);
 
-  bool m_editable;
+  Typing m_typing;
   std::vector<std::string> m_items;
   int m_index = -1;
   std::string m_text;

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QRegularExpressionValidator>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -168,8 +169,10 @@ void bind(QComboBox& widget, Combo& control) {
   widget.setEditable(control.editable());
   widget.setInsertPolicy(QComboBox::NoInsert);
   widget.setMaxVisibleItems(20);
-  if (control.editable()) widget.setCompleter(nullptr);  // "1" must not grow into "10" under the user's hands
   widget.setFocusPolicy(Qt::StrongFocus);                // not by the wheel, which would then turn the list
+  if (control.editable()) widget.setCompleter(nullptr);  // "1" must not grow into "10" under the user's hands
+  if (control.digitsOnly())
+    widget.setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), &widget));
   auto shown = std::make_shared<std::vector<std::string>>();
   follow(widget, control, [&widget, &control, shown] {
     const QSignalBlocker quiet(widget);

@@ -40,13 +40,13 @@ bool passing(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
 }
 
-}  // namespace
 // Across windows too: the open list of a combo is one.
 bool belongsTo(const QObject* part, const QWidget& whole) {
   while (part != nullptr && part != &whole) part = part->parent();
   return part != nullptr;
 }
 
+}  // namespace
 
 Key keyFrom(const QKeyEvent& event) {
   const Qt::KeyboardModifiers held = event.modifiers();
@@ -74,12 +74,12 @@ UserEvents::UserEvents(QWidget& widget, Control& control)
   QWidget* last = &widget;
   while (last->focusProxy() != nullptr) last = last->focusProxy();
   if (last != &widget) last->installEventFilter(this);
-}
   m_focused = last;
   if (const auto* const list = qobject_cast<QComboBox*>(&widget); list != nullptr && list->isEditable()) {
     m_edit = list->lineEdit();
     m_edit->installEventFilter(this);
   }
+}
 
 bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
@@ -116,6 +116,9 @@ bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
 void UserEvents::focusIn(const QFocusEvent& event) {
   m_control.entered();
   m_clickedIn = event.reason() == Qt::MouseFocusReason && m_edit != nullptr;
+  // Qt does so for the keyboard alone. A click selects when it ends, one on the arrow when the list is closed again.
+  const bool selects = std::exchange(m_listOpened, false) || !passing(event.reason());
+  if (m_edit != nullptr && m_edit != &m_widget && !m_clickedIn && selects) m_edit->selectAll();
   if (const auto* const text = dynamic_cast<const Text*>(&m_control)) {
     m_start = text->selectionStart();
     m_length = text->selectionLength();
@@ -137,12 +140,19 @@ bool UserEvents::mousePress(const QObject* watched, QEvent::Type type) {
     m_control.doubleClick();
     return true;
   }
+  if (m_clickedIn && m_edit != &m_widget) {  // the arrow of a list, not its text
+    m_clickedIn = false;
+    m_listOpened = true;
+  }
   return false;
 }
 
 void UserEvents::mouseRelease(const QObject* watched) {
   if (watched != m_edit || !std::exchange(m_clickedIn, false) || m_edit->hasSelectedText()) return;
-  if (auto* const text = dynamic_cast<Text*>(&m_control)) text->select(m_start, m_length);
+  if (auto* const text = dynamic_cast<Text*>(&m_control))
+    text->select(m_start, m_length);
+  else
+    m_edit->selectAll();
 }
 
 }  // namespace trv5

@@ -37,6 +37,7 @@ class UserEvents : public QObject {
   QPointer<QLineEdit> m_edit;          // where the widget is written in
   // The click that brought the focus isn't over: what was selected on entering is to stay so.
   bool m_clickedIn = false;
+  bool m_listOpened = false;  // by the click that brought the focus
   int m_start = 0, m_length = 0;
 };
 

@@ -1,7 +1,8 @@
-// Lists and scroll bars under the wheel.
+// Lists and scroll bars under the wheel, editable lists under the keyboard.
 #include <gtest/gtest.h>
 #include <qtestspontaneevent.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -50,7 +51,7 @@ struct Page : testing::Test {
 
   FormWorld world;
   Combo filter{world.form, "ComboFiltro"};
-  Combo count{world.form, "ComboNC", Combo::Typing::Yes};
+  Combo count{world.form, "ComboNC", Combo::Typing::Digits};
   Combo free{world.form, "Combo1R_1N", Combo::Typing::Yes};
   Scroll scroll{world.form, "hs1", 1, 100};
   Text name{world.form, "Text1"};
@@ -90,6 +91,49 @@ TEST_F(Page, TheWheelChangesTheValueThatHasTheFocus) {
   turn(*bar, 1);
   EXPECT_GT(scroll.value(), 1);
   EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(Page, AnEditableListIsSelectedWhenTheFocusComes) {
+  QTest::keyClick(box, Qt::Key_Tab);
+  QTest::keyClick(list, Qt::Key_Tab);
+  EXPECT_TRUE(number->hasFocus());
+  EXPECT_EQ(number->lineEdit()->selectedText(), QStringLiteral("2")) << "by Tab";
+  QTest::mouseClick(text->lineEdit(), Qt::LeftButton);
+  EXPECT_TRUE(text->hasFocus());
+  EXPECT_EQ(text->lineEdit()->selectedText(), QStringLiteral("2")) << "by a click";
+  QTest::mouseClick(text->lineEdit(), Qt::LeftButton);
+  EXPECT_FALSE(text->lineEdit()->hasSelectedText()) << "the next click places the cursor";
+  box->setFocus();
+  count.focus();
+  EXPECT_EQ(number->lineEdit()->selectedText(), QStringLiteral("2")) << "by an operation";
+}
+
+TEST_F(Page, AClickOnTheArrowOpensAnEditableList) {
+  QTest::mouseClick(number, Qt::LeftButton, {}, QPoint(number->width() - 8, number->height() / 2));
+  EXPECT_TRUE(number->view()->isVisible());
+  EXPECT_EQ(world.form.focused(), &count) << "an open list is part of its control";
+  number->hidePopup();
+  area.activateWindow();  // without a window system nobody else does
+  settle();
+  EXPECT_TRUE(number->hasFocus());
+  EXPECT_EQ(number->lineEdit()->selectedText(), QStringLiteral("2"));
+}
+
+TEST_F(Page, TheKeyboardGivesAListOfNumbersDigitsOnly) {
+  number->setFocus();
+  number->lineEdit()->selectAll();
+  QTest::keyClicks(number->lineEdit(), QStringLiteral("1a-,5 "));
+  EXPECT_EQ(count.text(), "15");
+  text->setFocus();
+  text->lineEdit()->selectAll();
+  QTest::keyClicks(text->lineEdit(), QStringLiteral("1-5"));
+  EXPECT_EQ(free.text(), "1-5");
+}
+
+TEST_F(Page, WhatIsSetPastTheKeyboardStaysInAListOfNumbers) {
+  count.type("x7");
+  EXPECT_EQ(count.text(), "x7");
+  EXPECT_EQ(number->currentText(), QStringLiteral("x7"));
 }
 
 }  // namespace
