@@ -12,7 +12,7 @@
 namespace trv5 {
 
 /// What the workbench remembers beside its controls. Operations set these fields from the controls when they run, and
-/// later operations read them as they stand: much of it is stale on purpose.
+/// later operations read them as they stand: much of it is stale on purpose. "Unread": kept for the layers to come.
 struct WorkbenchState {
   // Set by the detection of the cases.
   std::string TipoRilevazione;
@@ -22,7 +22,7 @@ struct WorkbenchState {
   PositionFlags PosizioniScelte{};
   PositionFlags PosizioniColpite{};  ///< of the draw examined last; "Ciclo" paints with what it finds here
   NumberFlags NumeriScelti{};
-  std::array<bool, 10> DecineScelte{}, CadenzeScelte{}, FigureScelte{};
+  std::array<bool, 10> DecineScelte{}, CadenzeScelte{}, FigureScelte{};  ///< of those numbers; unread
   std::string TestoNumeri;
   int Elenco = 0;  ///< rows that a ranking keeps
   int Retro = 0;
@@ -33,7 +33,7 @@ struct WorkbenchState {
   int ValoreMensile = 0;
   int QuantiNumeri = 1;
   int MaxCasi = 10;
-  int NumeroCasi = 0;             ///< cases found by the last detection, before the cut to 50
+  int NumeroCasi = 0;             ///< cases found by the last detection, before the cut to 50; unread
   int EstrazioneRiferimento = 0;  ///< the reference draw: value of `hs1`
 
   // Formulas and searches.
@@ -47,13 +47,13 @@ struct WorkbenchState {
   std::string OperazioneCorrente;
 
   // Verification.
-  int TipoVerifica = 0;                ///< 1 ambate, 2 ambi, 3 terni, 6 lunghetta
+  int TipoVerifica = 0;                ///< 1 ambate, 2 ambi, 3 terni, 6 lunghetta; unread
   std::array<int, 6> EsitiPerSorte{};  ///< hits by quantity of numbers 1..5
   int CasiInCorso = 0;                 ///< cases with fewer than `Colpi` draws after them
   /// Numbers in play by [case + offset of the kind][number]: ambate 0, ambi 50, terni 100, lunghette 250.
   std::vector<NumberFlags> NumeriInGioco = std::vector<NumberFlags>(301);
   CaseFlags CasiEsclusi{};               ///< cases that the verifications behind CC skip
-  CaseFlags CasiVerificati{};            ///< cases that the last verification behind CC hit
+  CaseFlags CasiVerificati{};            ///< cases that the last verification behind CC hit; unread
   CaseFlags CasiCoperti{}, CasiQuasi{};  ///< lunghetta: covered cases, and those one number short of the sorte
 };
 

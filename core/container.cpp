@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "core/text.h"
-
 namespace trv5 {
 
 Container::Container(Program& program)
@@ -91,7 +89,7 @@ void Container::ImpostazioniArchivioModello() {
   Lbl_inizioNE.setText(std::to_string(first));
   LblFine.setText(archive.DateEstrazioni(last));
   Lbl_fineNE.setText(std::to_string(last));
-  Lbl_Ev.setText(std::to_string(numberOf(Lbl_fineNE.text()) - numberOf(Lbl_inizioNE.text()) + 1));
+  Lbl_Ev.setText(std::to_string(last - first + 1));
 }
 
 }  // namespace trv5

@@ -82,13 +82,8 @@ void Inizio::openArchive() {
 }
 
 void Inizio::ImpostaInizialix() {
-  const Parameters parameters = m_program.parameters();
-  if (const auto wheels = parameters.Valore1("Ruote")) {
-    for (std::size_t i = 0; i < wheels->size() && i < m_program.Ruote.size(); ++i)
-      m_program.Ruote[i] = numberOf(wheels->substr(i, 1));
-  }
-  if (const auto wheel = parameters.Valore1("RuotaPrincipale")) m_program.RuotaPrincipale = numberOf(*wheel);
-  if (const auto first = parameters.Valore1("EstrazioneIniziale")) m_program.EstrazioneIniziale = numberOf(*first);
+  if (const auto first = m_program.parameters().Valore1("EstrazioneIniziale"))
+    m_program.EstrazioneIniziale = numberOf(*first);
 }
 
 bool Inizio::SelezionaArchivio() {

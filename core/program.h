@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -49,9 +48,7 @@ struct Program {
   /// Where the draws in memory come from; empty before the first load.
   std::filesystem::path loadedArchive;
 
-  std::string IndirizzoInternet;
-  std::array<int, 11> Ruote{};     ///< read at start; no operation reads it afterwards
-  int RuotaPrincipale = 0;         ///< read at start; no operation reads it afterwards
+  std::string IndirizzoInternet;   ///< where published draws are; unread, kept for their update
   int EstrazioneIniziale = 0;      ///< the first draw of the model archive
   Container* container = nullptr;  ///< the shell while it is open
 

@@ -177,12 +177,9 @@ TEST(Start, ParametersAreTakenAndMissingOnesKeepTheirInitialValue) {
   ProgramWorld world;
   const auto archive = world.makeArchive(threeDraws());
   world.makeMain({{.Parametro = "PercorsoArchivio", .Valore1 = archive.string()},
-                  {.Parametro = "RUOTE", .Valore1 = "10203x70909123"},
-                  {.Parametro = "RuotaPrincipale", .Valore1 = "7"}});
+                  {.Parametro = "ESTRAZIONEINIZIALE", .Valore1 = "2x"}});
   world.start();
-  EXPECT_EQ(world.program->Ruote, (std::array<int, 11>{1, 0, 2, 0, 3, 0, 7, 0, 9, 0, 9}));
-  EXPECT_EQ(world.program->RuotaPrincipale, 7);
-  EXPECT_EQ(world.program->EstrazioneIniziale, 0);
+  EXPECT_EQ(world.program->EstrazioneIniziale, 2);
   EXPECT_EQ(world.program->IndirizzoInternet, "");
   EXPECT_TRUE(world.shell.shown.empty());
 }
