@@ -1,5 +1,8 @@
 #include "console/arguments.h"
 
+#include <limits>
+#include <nlohmann/json.hpp>
+
 namespace trv5 {
 
 std::string textArgument(const nlohmann::json& line, std::size_t i) {

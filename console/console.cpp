@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <utility>
 
 #include "console/arguments.h"
 #include "console/grid_dump.h"
@@ -27,6 +30,20 @@ std::string failure(const std::string& error) {
 std::string fields(const nlohmann::json& object) {
   const std::string text = object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   return text.substr(1, text.size() - 2);
+}
+
+nlohmann::json describe(const Script::Shown& box) {
+  nlohmann::json out = {{"kind", box.kind}, {"title", box.title}, {"text", box.text}, {"icon", box.icon}};
+  const auto add = [&](const char* name, const auto& value) {
+    if (value) out[name] = *value;
+  };
+  add("default", box.initial);
+  add("folder", box.folder);
+  add("filter", box.filter);
+  add("orientation", box.orientation);
+  add("margin", box.margin);
+  add("reason", box.reason);
+  return out;
 }
 
 }  // namespace
@@ -168,7 +185,9 @@ std::string Console::queueAnswer(const Arguments& line) {
 }
 
 std::string Console::messages(const Arguments&) {
-  return fields({{"messages", std::exchange(m_script.messages, nlohmann::json::array())}});
+  nlohmann::json all = nlohmann::json::array();
+  for (const Script::Shown& shown : std::exchange(m_script.messages, {})) all.push_back(describe(shown));
+  return fields({{"messages", std::move(all)}});
 }
 
 std::string Console::clipboard(const Arguments& line) {

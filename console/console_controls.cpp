@@ -1,6 +1,7 @@
 // The lines that act on controls and tell what they show.
 #include <QLabel>
 #include <QTextBrowser>
+#include <nlohmann/json.hpp>
 
 #include "console/arguments.h"
 #include "console/console.h"

@@ -33,29 +33,29 @@ Script::Queued ConsoleShell::take() {
   return next;
 }
 
-nlohmann::json& ConsoleShell::record(const char* kind, const std::string& title, const std::string& text,
-                                     const char* icon) {
-  m_script.messages.push_back({{"kind", kind}, {"title", title}, {"text", text}, {"icon", icon}});
-  return m_script.messages.back();
+void ConsoleShell::record(const char* kind, const Box& box) {
+  Script::Shown shown{.kind = kind, .title = box.title, .text = box.text, .icon = nameOf(box.icon)};
+  if (!box.reason.empty()) shown.reason = box.reason;
+  m_script.messages.push_back(std::move(shown));
 }
 
 // A message asks nothing: it takes only an answer that is meant for it, so that the answer to the question behind it
 // stays in the queue.
 void ConsoleShell::message(const Box& box) {
-  record("message", box.title, box.text, nameOf(box.icon));
+  record("message", box);
   if (!m_script.answers.empty() &&
       (m_script.answers.front().answer == Answer::Ok || m_script.answers.front().answer == Answer::Cancel))
     m_script.answers.pop_front();
 }
 
 bool ConsoleShell::confirm(const Box& box) {
-  record("confirm", box.title, box.text, nameOf(box.icon));
+  record("confirm", box);
   const Answer answer = take().answer;
   return answer == Answer::Yes || answer == Answer::Ok;
 }
 
 std::optional<std::string> ConsoleShell::input(const InputBox& box) {
-  record("input", box.title, box.text, "none")["default"] = box.initial;
+  m_script.messages.push_back({.kind = "input", .title = box.title, .text = box.text, .initial = box.initial});
   const Script::Queued answer = take();
   if (answer.answer == Answer::Text) return answer.text;
   if (answer.answer == Answer::Ok) return box.initial;
@@ -63,9 +63,8 @@ std::optional<std::string> ConsoleShell::input(const InputBox& box) {
 }
 
 std::optional<std::filesystem::path> ConsoleShell::chooseFile(const FileBox& box, const char* kind) {
-  nlohmann::json& shown = record(kind, box.title, "", "none");
-  shown["folder"] = box.folder.string();
-  shown["filter"] = box.filter;
+  m_script.messages.push_back(
+      {.kind = kind, .title = box.title, .text = {}, .folder = box.folder.string(), .filter = box.filter});
   const Script::Queued answer = take();
   if (answer.answer != Answer::File || answer.text.empty()) return std::nullopt;
   std::filesystem::path file(answer.text);
@@ -83,15 +82,17 @@ std::optional<std::filesystem::path> ConsoleShell::chooseSave(const FileBox& box
 }
 
 void ConsoleShell::print(const Grid& grid, const PrintSetup& setup) {
-  nlohmann::json& shown = record("print", setup.title, "", "none");
-  shown["orientation"] = setup.landscape ? "landscape" : "portrait";
-  shown["margin"] = setup.horizontalMargin;
+  m_script.messages.push_back({.kind = "print",
+                               .title = setup.title,
+                               .text = {},
+                               .orientation = setup.landscape ? "landscape" : "portrait",
+                               .margin = setup.horizontalMargin});
   const Script::Queued answer = take();
   if (answer.answer == Answer::File) printToPdf(grid, setup, answer.text);
 }
 
 void ConsoleShell::openAddress(const std::string& url) {
-  record("address", "", url, "none");
+  m_script.messages.push_back({.kind = "address", .title = {}, .text = url});
 }
 
 DateTime ConsoleShell::now() {

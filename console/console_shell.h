@@ -1,9 +1,9 @@
 #pragma once
 
 #include <deque>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "screens/shell/qt_shell.h"
 
@@ -17,8 +17,16 @@ struct Script {
     std::string text;
   };
 
+  /// A box that was shown, with what its kind has.
+  struct Shown {
+    std::string kind, title, text;
+    std::string icon = "none";
+    std::optional<std::string> initial = {}, folder = {}, filter = {}, orientation = {}, reason = {};
+    std::optional<int> margin = {};  ///< twentieths of a point
+  };
+
   std::deque<Queued> answers;  ///< to the next boxes, in order
-  nlohmann::json messages = nlohmann::json::array();
+  std::vector<Shown> messages;
   std::optional<DateTime> clock;  ///< where it stands still
 };
 
@@ -46,7 +54,7 @@ class ConsoleShell : public QtShell {
   /// The next answer; a box that finds none is cancelled.
   Script::Queued take();
   std::optional<std::filesystem::path> chooseFile(const FileBox& box, const char* kind);
-  nlohmann::json& record(const char* kind, const std::string& title, const std::string& text, const char* icon);
+  void record(const char* kind, const Box& box);
 
   Script& m_script;
   bool m_ended = false;

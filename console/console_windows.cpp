@@ -9,6 +9,7 @@
 #include <QTest>
 #include <algorithm>
 
+#include <nlohmann/json.hpp>
 #include "console/arguments.h"
 #include "console/console.h"
 #include "console/key_names.h"

@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 #include "console/arguments.h"
 #include "core/dates.h"

@@ -24,6 +24,17 @@ TEST_F(ConsoleTest, AnswersBoxesInOrderAndRecordsThem) {
   EXPECT_EQ(does("messages")["messages"], json::array());
 }
 
+TEST_F(ConsoleTest, AMessageHoldsTheReasonThatTheBoxShows) {
+  made->Command1.onEvent([] {
+    made->shell().message({.text = "Errore", .reason = "disco pieno"});
+    made->shell().confirm({.text = "Riprovo?", .reason = "disco ancora pieno"});
+  });
+  does("click", "INIZIO", "Command1");
+  const json shown = does("messages")["messages"];
+  EXPECT_EQ(shown[0]["reason"], "disco pieno");
+  EXPECT_EQ(shown[1]["reason"], "disco ancora pieno");
+}
+
 TEST_F(ConsoleTest, BoxesThatFindNoAnswerAreCancelled) {
   does("click", "INIZIO", "Ask");
   EXPECT_EQ(log(), (Lines{"no", "(annullato)", "(annullato)"}));

@@ -80,8 +80,10 @@ TEST_F(StartConsole, ProcediOnAFileWithoutTheTableKeepsInizioAndAnotherArchiveTh
   console.does("answer", "file", (world.folder / "DbTRV5.mdb").string());
   console.does("click", "INIZIO", "Command4");
   console.does("click", "INIZIO", "Command2");
-  EXPECT_EQ(messages().back(),
-            (json{{"kind", "message"}, {"title", "Avviso"}, {"text", kOther}, {"icon", "critical"}}));
+  json shown = messages().back();
+  EXPECT_NE(shown["reason"].get<std::string>().find("non può essere aperto"), std::string::npos) << shown;
+  shown.erase("reason");
+  EXPECT_EQ(shown, (json{{"kind", "message"}, {"title", "Avviso"}, {"text", kOther}, {"icon", "critical"}}));
   EXPECT_EQ(screens(), json({"INIZIO"}));
   console.does("answer", "file", good);
   console.does("click", "INIZIO", "Command4");
