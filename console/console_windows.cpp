@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QImage>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QTest>
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include "console/key_names.h"
 #include "core/errors.h"
 #include "screens/kit/theme.h"
+#include "screens/kit/user_events.h"
 #include "screens/shell/Container.h"
 
 namespace trv5 {
@@ -81,7 +83,6 @@ const QScreen* screenOfScale(double scale) {
 
 std::string Console::key(const Arguments& line) {
   const Target found = enabledTarget(line);
-  if (found.widget == nullptr) throw LineError("il controllo non è sullo schermo: " + textArgument(line, 2));
   const std::optional<KeyPress> press = keyOf(textArgument(line, 3));
   if (!press) throw LineError("tasto sconosciuto: " + textArgument(line, 3));
   QWidget* const window = found.widget->window();
@@ -91,6 +92,10 @@ std::string Console::key(const Arguments& line) {
   settle();
   // An operation behind the key may close the widget's window: it dies only after this.
   QTest::sendKeyEvent(QTest::Click, found.widget, press->key, press->text, press->modifiers);
+  if (found.widget == nullptr) {
+    found.control->key(keyFrom(QKeyEvent(QEvent::KeyPress, press->key, press->modifiers, press->text)));
+    return {};
+  }
   settle();
   waitForPressedButtons();
   return {};

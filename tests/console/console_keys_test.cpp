@@ -22,7 +22,22 @@ TEST_F(ConsoleTest, KeysGoToTheControlThatGetsTheFocus) {
   does("key", "INIZIO", "Ask", "Shift+Tab");
   EXPECT_EQ(does("focus")["control"], "Command1");
   refuses("key", "INIZIO", "Command1", "Invio");
-  refuses("key", "INIZIO", "Hidden", "Enter");
+}
+
+TEST_F(ConsoleTest, AKeyReachesTheOperationOfTheControlWithAWindowAndWithout) {
+  for (Text* const box : {&made->TxtNumeri, &made->Text3}) {
+    box->onEnter([box] { box->selectAll(); });
+    box->onKey([](const Key& key) {
+      if (key.code == Key::Code::Enter) made->ComboR1.focus();
+      return key.code == Key::Code::Enter;
+    });
+    const std::string name = box->name();
+    does("set", "INIZIO", name, "12");
+    does("key", "INIZIO", name, "7");
+    EXPECT_EQ(does("get", "INIZIO", name)["text"], "7") << name;
+    does("key", "INIZIO", name, "Enter");
+    EXPECT_EQ(does("focus")["control"], "ComboR1") << name;
+  }
 }
 
 TEST(KeyNames, AreThoseOfTheKeyboard) {
