@@ -16,4 +16,7 @@ class LineError : public std::runtime_error {
 std::string textArgument(const nlohmann::json& line, std::size_t i);
 int numberArgument(const nlohmann::json& line, std::size_t i);
 
+/// A whole number; throws LineError for another type and for one that an int can't hold.
+int wholeNumber(const nlohmann::json& value);
+
 }  // namespace trv5

@@ -46,6 +46,12 @@ nlohmann::json describe(const Script::Shown& box) {
   return out;
 }
 
+// Two digits or more, as a moment is written; -1 where something else stands.
+int digits(std::string_view text) {
+  const bool all = std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+  return all ? numberOf(text) : -1;
+}
+
 }  // namespace
 
 Console::Console(Theme& theme, std::vector<ScreenEntry> screens) : m_theme(theme), m_screens(std::move(screens)) {}
@@ -198,12 +204,14 @@ std::string Console::clipboard(const Arguments& line) {
 std::string Console::clock(const Arguments& line) {
   const std::string text = textArgument(line, 1);
   const auto part = [&](std::size_t from, std::size_t length) {
-    return numberOf(std::string_view(text).substr(from, length));
+    return digits(std::string_view(text).substr(from, length));
   };
   if (text.size() != 19 || text[2] != '/' || text[5] != '/' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
     throw LineError("il momento va scritto GG/MM/AAAA HH:MM:SS");
   const DateTime moment{part(6, 4), part(3, 2), part(0, 2), part(11, 2), part(14, 2), part(17, 2)};
-  if (!dayOf(moment.year, moment.month, moment.day) || moment.hour > 23 || moment.minute > 59 || moment.second > 59)
+  const auto within = [](int value, int highest) { return value >= 0 && value <= highest; };
+  if (!dayOf(moment.year, moment.month, moment.day) || !within(moment.hour, 23) || !within(moment.minute, 59) ||
+      !within(moment.second, 59))
     throw LineError("il momento non esiste: " + text);
   m_script.clock = moment;
   return {};

@@ -9,8 +9,8 @@
 #include <QScreen>
 #include <QTest>
 #include <algorithm>
-
 #include <nlohmann/json.hpp>
+
 #include "console/arguments.h"
 #include "console/console.h"
 #include "console/key_names.h"
@@ -51,16 +51,23 @@ struct Looks {
   std::optional<double> points;
 };
 
+int sideOf(const nlohmann::json& value) {
+  const int pixels = wholeNumber(value);
+  // No screen is larger, and the memory for its picture has an end.
+  if (pixels < 1 || pixels > 8192) throw LineError(fmt::format("dimensione fuori limite: {}", pixels));
+  return pixels;
+}
+
 Looks looksOf(const nlohmann::json& line) {
   Looks looks;
   if (line.size() < 4) return looks;
   const nlohmann::json& wanted = line[3];
   if (!wanted.is_object()) throw LineError("l'aspetto dev'essere un oggetto JSON");
   for (const auto& [name, value] : wanted.items()) {
-    if (name == "width" && value.is_number_integer())
-      looks.size.setWidth(value.get<int>());
-    else if (name == "height" && value.is_number_integer())
-      looks.size.setHeight(value.get<int>());
+    if (name == "width")
+      looks.size.setWidth(sideOf(value));
+    else if (name == "height")
+      looks.size.setHeight(sideOf(value));
     else if (name == "scale" && value.is_number())
       looks.scale = value.get<double>();
     else if (name == "dark" && value.is_boolean())
@@ -85,6 +92,10 @@ std::string Console::key(const Arguments& line) {
   const Target found = enabledTarget(line);
   const std::optional<KeyPress> press = keyOf(textArgument(line, 3));
   if (!press) throw LineError("tasto sconosciuto: " + textArgument(line, 3));
+  if (found.widget == nullptr) {
+    found.control->key(keyFrom(QKeyEvent(QEvent::KeyPress, press->key, press->modifiers, press->text)));
+    return {};
+  }
   QWidget* const window = found.widget->window();
   window->activateWindow();
   settle();
@@ -92,10 +103,6 @@ std::string Console::key(const Arguments& line) {
   settle();
   // An operation behind the key may close the widget's window: it dies only after this.
   QTest::sendKeyEvent(QTest::Click, found.widget, press->key, press->text, press->modifiers);
-  if (found.widget == nullptr) {
-    found.control->key(keyFrom(QKeyEvent(QEvent::KeyPress, press->key, press->modifiers, press->text)));
-    return {};
-  }
   settle();
   waitForPressedButtons();
   return {};

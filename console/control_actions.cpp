@@ -22,12 +22,11 @@ namespace {
 
 int integer(const nlohmann::json& value) {
   if (value.is_boolean()) return value.get<bool>() ? 1 : 0;
-  if (!value.is_number_integer()) throw LineError("il valore dev'essere un numero intero");
-  return value.get<int>();
+  return wholeNumber(value);
 }
 
 std::string text(const nlohmann::json& value) {
-  if (value.is_number_integer()) return std::to_string(value.get<long>());
+  if (value.is_number_integer()) return value.dump();
   if (!value.is_string()) throw LineError("il valore dev'essere un testo");
   return value.get<std::string>();
 }
@@ -37,7 +36,7 @@ void setCombo(Combo& combo, QWidget* widget, const nlohmann::json& value) {
   const std::vector<std::string>& items = combo.items();
   int index = -1;
   if (value.is_number_integer()) {
-    index = value.get<int>();
+    index = wholeNumber(value);
     if (index < 0 || index >= static_cast<int>(items.size()))
       throw LineError(fmt::format("la lista {} non ha la voce {}", combo.name(), index));
   } else {
@@ -79,6 +78,15 @@ void setText(Text& control, QWidget* widget, const nlohmann::json& value) {
   } else {
     control.set(qs(wanted).left(control.maximumLength()).toStdString());
   }
+}
+
+void setScroll(Scroll& scroll, QWidget* widget, int value) {
+  if (value < scroll.minimum() || value > scroll.maximum())
+    throw LineError(fmt::format("{} va da {} a {}", scroll.name(), scroll.minimum(), scroll.maximum()));
+  if (auto* const bar = qobject_cast<QScrollBar*>(widget))
+    bar->setValue(value);
+  else
+    scroll.set(value);
 }
 
 void setTabs(Tabs& tabs, QWidget* widget, int given) {
@@ -124,10 +132,7 @@ void setControl(Control& control, QWidget* widget, const nlohmann::json& value) 
   if (auto* const box = dynamic_cast<Text*>(&control)) return setText(*box, widget, value);
   if (auto* const tabs = dynamic_cast<Tabs*>(&control)) return setTabs(*tabs, widget, integer(value));
   if (auto* const calendar = dynamic_cast<Calendar*>(&control)) return setCalendar(*calendar, widget, value);
-  if (auto* const scroll = dynamic_cast<Scroll*>(&control)) {
-    if (auto* const bar = qobject_cast<QScrollBar*>(widget)) return bar->setValue(integer(value));
-    return scroll->set(integer(value));
-  }
+  if (auto* const scroll = dynamic_cast<Scroll*>(&control)) return setScroll(*scroll, widget, integer(value));
   throw LineError("il controllo non ha un valore da impostare: " + control.name());
 }
 

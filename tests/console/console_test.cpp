@@ -189,8 +189,33 @@ TEST_F(ConsoleTest, TheClockStandsStillWhereItWasStopped) {
   does("clock", "22/08/2026 10:42:07");
   does("click", "INIZIO", "Now");
   EXPECT_EQ(log(), Lines{"10:42:07"});
-  for (const char* wrong : {"22/08/2026", "30/02/2026 10:00:00", "22/08/2026 25:00:00", "ieri"})
+  for (const char* wrong : {"22/08/2026", "30/02/2026 10:00:00", "22/08/2026 25:00:00", "22/08/2026 10:61:00",
+                            "22/08/2026 10:00:60", "31/02/2026 10:00:00", "2x/08/2026 10:00:00", "22/08/2026 -1:00:00",
+                            "22/08/2026 xx:yy:zz", "22/08/2026  1:00:00", "ieri"})
     refuses("clock", wrong);
+}
+
+TEST_F(ConsoleTest, ANumberThatDoesNotFitIsAnError) {
+  const std::int64_t one = 4294967297;  // 1 in the lower 32 bits
+  const std::uint64_t highest = 18446744073709551615U;
+  for (const char* const control : {"ComboR1", "hs1", "Check1", "SSTab1"}) {
+    refuses("set", "INIZIO", control, one);
+    refuses("set", "INIZIO", control, -one + 2);
+    refuses("set", "INIZIO", control, highest);
+  }
+  refuses("set", "INIZIO", "hs1", 0);
+  refuses("set", "INIZIO", "hs1", 7371);
+  refuses("cell", "INIZIO", "FgF", one, 1, "click");
+  refuses("cell", "INIZIO", "FgF", 1, one, "click");
+  refuses("edit", "INIZIO", "FgF", one, 1, "2");
+  refuses("edit", "INIZIO", "FgF", 1, one, "2");
+  const std::string file = (world.folder / "foto.png").string();
+  for (const json& wrong : {json{{"width", one + 700}}, json{{"height", one + 700}}, json{{"width", 0}}})
+    refuses("shot", "INIZIO", file, wrong);
+  EXPECT_EQ(log(), Lines{});
+  does("set", "INIZIO", "ComboNC", "x");
+  does("set", "INIZIO", "TxtNumeri", highest);
+  EXPECT_EQ(does("get", "INIZIO", "TxtNumeri")["text"], "18446744") << "a text of eight characters";
 }
 
 TEST_F(ConsoleTest, TakesPicturesInTheSizeScaleAndThemeAskedFor) {
