@@ -46,6 +46,15 @@ function(trv5_layer name)
   target_link_libraries(trv5_${name} PUBLIC ${L_USES} ${L_LINKS} PRIVATE trv5_options)
 endfunction()
 
+# trv5_precompile(target header...): compiles the headers once for all sources of the target.
+function(trv5_precompile target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  # The compiler cache looks for the precompiled header in the preprocessed source.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()
+
 # trv5_tests(engine USES engine): the test program of one folder of tests/, each test of it known to CTest by its name.
 # With LABEL its tests can be chosen by that; SUPPORT names other helpers than those that know the workbench.
 function(trv5_tests name)

@@ -10,6 +10,8 @@ packages=(build-essential cmake ninja-build ccache pkg-config git cmark
 
 # Objects compiled in one checkout serve the next one too.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+# Without these the cache passes over what uses a precompiled header; such objects serve their own checkout only.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 stop() {
   printf '%s\n' "$*" >&2
