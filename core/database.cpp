@@ -24,6 +24,7 @@ using Reason = DatabaseError::Reason;
 constexpr int kBusyTimeoutMs = 2000;
 
 Reason reasonOfCode(int code, bool readOnly) {
+  if (code == SQLITE_READONLY_DBMOVED) return Reason::Replaced;
   switch (code & 0xFF) {
     case SQLITE_NOTADB:
       return Reason::NotADatabase;
@@ -62,6 +63,8 @@ std::string reasonText(Reason reason, const char* detail) {
       return "il file è danneggiato o troncato";
     case Reason::Locked:
       return "il file è occupato da un altro programma";
+    case Reason::Replaced:
+      return "è stato sostituito o spostato mentre era aperto: chiudere il programma e riavviarlo";
     case Reason::ReadOnly:
       return "il file è in sola lettura";
     case Reason::DiskFull:
@@ -241,16 +244,17 @@ void Database::fail(std::string_view attempt) const {
     throw;
   } catch (const SQLite::Exception& error) {
     // Behind a failed read or write of the disk stands a reason of the system's.
-    const int code = error.getErrorCode() & 0xFF;
+    const int extended = error.getExtendedErrorCode(), code = extended & 0xFF;
     const int system = m_database == nullptr ? 0 : sqlite3_system_errno(m_database->getHandle());
     const bool systemFailed = (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && system != 0;
-    throw errorOf(attempt, m_path, reasonOfCode(code, m_readOnly),
+    throw errorOf(attempt, m_path, reasonOfCode(extended, m_readOnly),
                   systemFailed ? reasonOf(system).c_str() : error.what());
   }
 }
 
 Database::Transaction::Transaction(Database& database) : m_database(database) {
   if (database.readOnly()) throw errorOf("scritto", database.path(), Reason::ReadOnly);
+  if (!database.stillInPlace()) throw errorOf("scritto", database.path(), Reason::Replaced);
   database.execute("BEGIN IMMEDIATE");
 }
 

@@ -29,6 +29,7 @@ class DatabaseError : public UserError {
     OtherPassword,  ///< the file asks for a password that wasn't given, or for another one
     Damaged,        ///< truncated or corrupt
     Locked,         ///< another program holds it
+    Replaced,       ///< another file has taken the place of the open one, or it was moved away
     ReadOnly,       ///< something would have been written to a file that can't be
     DiskFull,
     Constraint,  ///< a row against the rules of its table: a key that exists already, a date that is none

@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "core/errors.h"
+#include "core/replaced_file.h"
 
 namespace trv5 {
 namespace {
@@ -27,12 +28,11 @@ mode_t currentMask() {
   return mask;
 }
 
-// A link is followed: what it points to is replaced, the link stays.
+// A link is followed: what it points to is replaced, the link stays. One that leads nowhere is given as it is.
 fs::path behindLinks(const fs::path& target) {
   std::error_code error;
-  if (!fs::is_symlink(target, error)) return fs::absolute(target);
-  const fs::path real = fs::weakly_canonical(target, error);
-  return error ? fs::absolute(target) : real;
+  const fs::path real = fs::is_symlink(target, error) ? fs::canonical(target, error) : fs::path();
+  return real.empty() ? fs::absolute(target) : real;
 }
 
 // The name itself is on the disk only when its folder is.
@@ -75,6 +75,7 @@ std::string reasonOf(int error) {
 }
 
 PendingFile::PendingFile(fs::path target) : m_target(behindLinks(target)) {
+  refuseSpecialFile(m_target);  // before any work is done for it
   std::string name = (m_target.parent_path() / fmt::format(".{}.XXXXXX", m_target.filename().string())).string();
   m_descriptor = mkostemp(name.data(), O_CLOEXEC);
   if (m_descriptor < 0) fail(errno);
@@ -108,6 +109,8 @@ void PendingFile::commit(Existing existing) {
   const int descriptor = m_descriptor;
   m_descriptor = -1;
   if (close(descriptor) != 0) fail(errno);  // some disks tell of a failed write only here
+  if (existing == Existing::Refuse && fs::exists(fs::symlink_status(m_target))) fail(EEXIST);
+  const ReplacedFile old(m_target);
   if (existing == Existing::Replace) {
     if (rename(m_path.c_str(), m_target.c_str()) != 0) fail(errno);
   } else {

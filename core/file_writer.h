@@ -11,7 +11,9 @@ enum class Existing { Refuse, Replace };
 
 /// A file on its way: a temporary file beside the target, in the same folder and so on the same disk. It becomes the
 /// target as a whole at commit(), after everything has been written and synced; without it the temporary file vanishes
-/// and the target stays as it was. All failures throw UserError and name the target.
+/// and the target stays as it was. A link to a file stays, the file it leads to is replaced; a folder, a device, a pipe
+/// and a link that leads nowhere are refused, and so is a file that another program holds. All failures throw UserError
+/// and name the target.
 class PendingFile {
  public:
   explicit PendingFile(std::filesystem::path target);
@@ -22,7 +24,8 @@ class PendingFile {
   /// Where the contents go until commit(), for writers that want a path of their own (a database).
   const std::filesystem::path& path() const { return m_path; }
   void write(std::string_view bytes);
-  /// Syncs the contents and gives the file its name. Throws UserError when the target exists and `existing` refuses.
+  /// Syncs the contents and gives the file its name; see ReplacedFile for what happens to the old one. Throws UserError
+  /// when the target exists and `existing` refuses.
   void commit(Existing existing);
 
  private:

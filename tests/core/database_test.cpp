@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <random>
 
@@ -10,6 +9,7 @@
 #include "core/database_files.h"
 #include "support/archive_builder.h"
 #include "support/broken_world.h"
+#include "support/left_journal.h"
 #include "support/temp_folder.h"
 
 namespace trv5 {
@@ -34,21 +34,6 @@ std::optional<Reason> failureOf(const std::filesystem::path& file, std::string_v
     return error.reason();
   }
 }
-
-// Another program that holds the file.
-class OtherProgram {
- public:
-  OtherProgram(const std::filesystem::path& file, const char* sql) {
-    sqlite3_open(file.c_str(), &m_handle);
-    EXPECT_EQ(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr), SQLITE_OK);
-  }
-  ~OtherProgram() { sqlite3_close(m_handle); }
-  OtherProgram(const OtherProgram&) = delete;
-  OtherProgram& operator=(const OtherProgram&) = delete;
-
- private:
-  sqlite3* m_handle = nullptr;
-};
 
 std::string setting(const Database& database, const std::string& name) {
   Statement pragma = database.prepare("PRAGMA " + name);
