@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <iterator>
 #include <set>
 
@@ -56,7 +57,50 @@ std::string quoted(std::string_view text) {
   return out + '"';
 }
 
+// Bytes of the well-formed UTF-8 character at the start of `text`; 0 when there is none.
+std::size_t characterLength(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return 1;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i)
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  const unsigned second = byte(1);
+  const bool overlong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
+  const bool surrogate = lead == 0xED && second >= 0xA0, beyond = lead == 0xF4 && second >= 0x90;
+  return overlong || surrogate || beyond ? 0 : length;
+}
+
+bool isNoCharacter(std::string_view text) {
+  return text.substr(0, 3) == "\xEF\xBF\xBE" || text.substr(0, 3) == "\xEF\xBF\xBF";
+}
+
+bool isControl(char c) {
+  return (c >= '\0' && c < ' ' && c != '\t' && c != '\n') || c == '\x7F';
+}
+
 }  // namespace
+
+std::string exportableText(std::string_view text) {
+  constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+  std::string out;
+  out.reserve(text.size());
+  while (!text.empty()) {
+    std::size_t length = characterLength(text);
+    const char c = text.front();
+    if (c == '\r') {
+      out += '\n';
+      if (text.size() > 1 && text[1] == '\n') length = 2;
+    } else if (length == 0 || isControl(c) || isNoCharacter(text)) {
+      out += kReplacement;
+    } else {
+      out += text.substr(0, length);
+    }
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return out;
+}
 
 std::vector<int> visibleRows(const Grid& grid) {
   std::vector<int> rows;
@@ -126,8 +170,8 @@ std::string csvText(const Grid& grid) {
     for (const int column : columns) {
       if (column != columns.front()) out += ';';
       // Blanks that pad a heading are looks.
-      out +=
-          quoted(row < grid.headingRows() ? trimmed(grid.text(row, column)) : std::string_view(grid.text(row, column)));
+      const std::string text = exportableText(grid.text(row, column));
+      out += quoted(row < grid.headingRows() ? trimmed(text) : std::string_view(text));
     }
     out += "\r\n";
   }

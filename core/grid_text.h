@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -22,6 +23,10 @@ std::string cellsHtml(const Grid& grid, const std::vector<std::pair<int, int>>& 
 /// What is visible of the table as a CSV file: UTF-8 with its mark, fields separated by semicolons as Italian
 /// spreadsheets expect, a field in double quotes where it needs them, rows ended by CR LF.
 std::string csvText(const Grid& grid);
+
+/// `text` as any file of text can hold it: what is no UTF-8, a control character other than tab and line feed, and the
+/// code points that are none become U+FFFD each; ends of lines become LF.
+std::string exportableText(std::string_view text);
 
 /// Rows and columns that aren't hidden, in order.
 std::vector<int> visibleRows(const Grid& grid);

@@ -1,19 +1,24 @@
 #include "screens/kit/grid_export.h"
 
+#include <fmt/format.h>
 #include <xlsxwriter.h>
 
+#include <QString>
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <map>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include "core/errors.h"
 #include "core/file_writer.h"
 #include "core/grid_text.h"
 #include "core/text.h"
 #include "screens/kit/ink.h"
+#include "screens/kit/theme.h"
+#include "screens/kit/workbook_reader.h"
 
 namespace trv5 {
 namespace {
@@ -46,13 +51,37 @@ class Formats {
   std::map<std::tuple<Rgb, Rgb, bool>, lxw_format*> m_made;
 };
 
-}  // namespace
+// The longest text of a cell, in units of UTF-16; a longer one ends in "…".
+constexpr qsizetype kLongestCell = 32767;
+constexpr double kWidestColumn = 100;  // in characters
 
-void writeXlsx(const std::filesystem::path& file, const Grid& grid) {
-  PendingFile pending(file);
-  lxw_workbook* const book = workbook_new(pending.path().c_str());
-  if (book == nullptr) throw UserError("Impossibile scrivere il file " + file.string());
-  lxw_worksheet* const sheet = workbook_add_worksheet(book, nullptr);
+std::string cellText(const std::string& text) {
+  const std::string exported = exportableText(trimmed(text));
+  if (static_cast<qsizetype>(exported.size()) <= kLongestCell) return exported;
+  QString cut = qs(exported);
+  if (cut.size() <= kLongestCell) return exported;
+  cut.truncate(kLongestCell - 1);
+  if (cut.back().isHighSurrogate()) cut.chop(1);
+  return (cut + u'…').toStdString();
+}
+
+std::vector<std::vector<std::string>> exportedTexts(const Grid& grid) {
+  const std::vector<int> columns = visibleColumns(grid);
+  std::vector<std::vector<std::string>> texts;
+  for (const int row : visibleRows(grid)) {
+    std::vector<std::string>& line = texts.emplace_back();
+    for (const int column : columns) line.push_back(cellText(grid.at(row, column).text));
+  }
+  return texts;
+}
+
+[[noreturn]] void fail(const std::filesystem::path& file, const std::string& reason, std::string details = {}) {
+  throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(), reason), "Avviso",
+                  std::move(details));
+}
+
+void fillSheet(lxw_workbook* book, lxw_worksheet* sheet, const Grid& grid,
+               const std::vector<std::vector<std::string>>& texts) {
   Formats formats(book);
   const std::vector<int> rows = visibleRows(grid), columns = visibleColumns(grid);
   std::vector<std::size_t> longest(columns.size(), 2);
@@ -60,7 +89,7 @@ void writeXlsx(const std::filesystem::path& file, const Grid& grid) {
     const bool heading = rows[r] < grid.headingRows();
     for (std::size_t c = 0; c < columns.size(); ++c) {
       const Cell& cell = grid.at(rows[r], columns[c]);
-      const std::string text(trimmed(cell.text));
+      const std::string& text = texts[r][c];
       const auto row = static_cast<lxw_row_t>(r);
       const auto column = static_cast<lxw_col_t>(c);
       lxw_format* const format =
@@ -76,12 +105,34 @@ void writeXlsx(const std::filesystem::path& file, const Grid& grid) {
   }
   for (std::size_t c = 0; c < columns.size(); ++c) {
     const auto column = static_cast<lxw_col_t>(c);
-    worksheet_set_column(sheet, column, column, static_cast<double>(longest[c]) + 2, nullptr);
+    worksheet_set_column(sheet, column, column, std::min(static_cast<double>(longest[c]) + 2, kWidestColumn), nullptr);
   }
   if (grid.headingRows() > 0) worksheet_freeze_panes(sheet, 1, 0);
+}
+
+}  // namespace
+
+void writeXlsx(const std::filesystem::path& file, const Grid& grid) {
+  PendingFile pending(file);
+  lxw_workbook* const book = workbook_new(pending.path().c_str());
+  if (book == nullptr) fail(file, "la memoria non basta");
+  const std::vector<std::vector<std::string>> texts = exportedTexts(grid);
+  fillSheet(book, workbook_add_worksheet(book, nullptr), grid, texts);
   if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR)
-    throw UserError("Impossibile scrivere il file " + file.string() + ": " + lxw_strerror(error));
-  pending.commit(Existing::Replace);
+    fail(file, "il disco o la cartella dei file temporanei non lo accettano", lxw_strerror(error));
+  // The library doesn't look whether its temporary files, of which it makes the workbook, were written whole.
+  std::string details;
+  bool whole = false;
+  try {
+    whole = readWorkbook(pending.path()) == texts;
+  } catch (const UserError& error) {
+    details = error.details();
+  }
+  if (whole) return pending.commit(Existing::Replace);
+  fail(file,
+       fmt::format("il risultato non è intero, forse è piena la cartella dei file temporanei ({})",
+                   std::filesystem::temp_directory_path().string()),
+       details);
 }
 
 }  // namespace trv5

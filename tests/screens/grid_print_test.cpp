@@ -6,7 +6,6 @@
 
 #include "core/errors.h"
 #include "form_world.h"
-#include "screens/kit/grid_export.h"
 #include "support/temp_folder.h"
 
 namespace trv5 {
@@ -68,25 +67,6 @@ TEST(GridPrint, HiddenRowsAreNotPrinted) {
 TEST(GridPrint, AFolderThatIsNotThereIsTold) {
   const TempFolder folder;
   EXPECT_THROW(printToPdf(table(1, 1), {}, folder / "manca" / "a.pdf"), UserError);
-}
-
-TEST(GridExport, WritesAWorkbookOverTheFormerOneAsAWhole) {
-  const TempFolder folder;
-  writeBytes(folder / "a.xlsx", "prima");
-  Grid grid = table(20, 4);
-  grid.setBack(1, 1, 0x80FF80);
-  grid.setFore(1, 2, 0xFF0000);
-  grid.setBold(1, 3);
-  writeXlsx(folder / "a.xlsx", grid);
-  const std::string bytes = readBytes(folder / "a.xlsx");
-  EXPECT_EQ(bytes.substr(0, 2), "PK");
-  EXPECT_NE(bytes.find("xl/worksheets/sheet1.xml"), std::string::npos);
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1) << "nothing is left beside it";
-}
-
-TEST(GridExport, AFolderThatIsNotThereIsTold) {
-  const TempFolder folder;
-  EXPECT_THROW(writeXlsx(folder / "manca" / "a.xlsx", table(1, 1)), UserError);
 }
 
 }  // namespace
