@@ -239,6 +239,11 @@ bool Database::hasField(std::string_view table, std::string_view field) const {
   return find.bind(1, table).bind(2, field).step();
 }
 
+void Database::checkIntegrity() const {
+  Statement check = prepare("PRAGMA integrity_check(1)");
+  if (!check.step() || check.text(0) != "ok") throw errorOf("letto", m_path, Reason::Damaged);
+}
+
 void Database::fail(std::string_view attempt) const {
   try {
     throw;

@@ -110,6 +110,10 @@ class Database {
   bool hasTable(std::string_view table) const;
   bool hasField(std::string_view table, std::string_view field) const;
 
+  /// Reads the whole file and looks whether its pages, rows and indices agree. Throws DatabaseError (Damaged) when they
+  /// don't.
+  void checkIntegrity() const;
+
   /// One transaction, writing from its first moment on, so that two programs never wait for each other's half. Rolled
   /// back at its end unless committed. Throws when the file is read-only or another program is writing.
   class Transaction {

@@ -11,6 +11,7 @@
 
 #include "core/database_marks.h"
 #include "core/dates.h"
+#include "core/draw_sums.h"
 #include "core/password.h"
 #include "schema.h"
 
@@ -92,6 +93,7 @@ void insertDraws(SQLite::Database& database, const std::vector<DrawRow>& rows) {
   SQLite::Statement insert(database,
                            "INSERT INTO EstrazioniLotto (DataEstrazione, Ba, Ca, Fi, Ge, Mi, Na, Pa, Ro, \"To\", Ve, "
                            "Nz) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+  SQLite::Statement sum(database, "INSERT INTO VerificaEstrazioni VALUES (?, ?)");
   for (const DrawRow& row : rows) {
     const std::optional<Day> day = dayOfText(row.date);
     if (!day) throw UserError(fmt::format("\"{}\" non è una data nella forma GG/MM/AAAA.", row.date));
@@ -105,6 +107,10 @@ void insertDraws(SQLite::Database& database, const std::vector<DrawRow>& rows) {
     }
     insert.exec();
     insert.reset();
+    sum.bind(1, isoText(*day));
+    sum.bind(2, sumOfDraw(row));
+    sum.exec();
+    sum.reset();
   }
 }
 
@@ -124,6 +130,7 @@ void createArchive(const fs::path& file, const std::vector<DrawRow>& rows, Exist
                    std::string_view password) {
   createFile(file, FileKind::Archive, existing, password, [&](SQLite::Database& database) {
     database.exec(kArchiveSchema);
+    database.exec(kDrawSumsSchema);
     insertDraws(database, rows);
   });
 }

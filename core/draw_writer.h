@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/archive.h"
+#include "core/database.h"
+
+namespace trv5 {
+
+/// When a draw was written into the archive: `datareg` as "GG/MM/AAAA" and `orareg` as "HH:MM:SS"; "" leaves them NULL.
+struct Registration {
+  std::string datareg, orareg;
+};
+
+/// Writes draws into an archive, each with its sum, in one transaction: rolled back unless committed. Everything that
+/// changes `EstrazioniLotto` goes through here. An archive without sums gets those of all its draws. All functions
+/// throw DatabaseError; a date that is none throws UserError.
+class DrawWriter {
+ public:
+  /// Begins the transaction.
+  explicit DrawWriter(Database& archive);
+
+  /// Adds the draw, or takes the place of the one of that date.
+  void put(const DrawRow& row, const Registration& registered = {});
+  /// Takes the draw of that date, "GG/MM/AAAA", out of the archive; false when there is none.
+  bool remove(std::string_view date);
+  /// Takes all draws as they stand: their sums are written anew.
+  void writeAllSums();
+  void commit() { m_transaction.commit(); }
+
+ private:
+  Database& m_archive;
+  Database::Transaction m_transaction;
+};
+
+/// One draw in a transaction of its own.
+void writeDraw(Database& archive, const DrawRow& row, const Registration& registered = {});
+bool deleteDraw(Database& archive, std::string_view date);
+
+}  // namespace trv5
