@@ -1,6 +1,8 @@
 #include "core/archive_load.h"
 
-#include <stdexcept>
+#include <fmt/format.h>
+
+#include <utility>
 
 #include "core/container.h"
 #include "core/database.h"
@@ -12,9 +14,24 @@
 namespace trv5 {
 namespace {
 
-std::vector<DrawRow> readChosenArchive(const Program& program,
-                                       const std::function<void(int row, int rows)>& onRow = {}) {
-  return readDraws(Database(program.PercorsoDbArchivio, FileKind::Archive), onRow);
+struct ReadArchive {
+  std::vector<DrawRow> rows;
+  std::vector<DrawDifference> differences;
+};
+
+ReadArchive readChosenArchive(const Program& program, const std::function<void(int row, int rows)>& onRow = {}) {
+  const Database database(program.PercorsoDbArchivio, FileKind::Archive);
+  database.checkIntegrity();
+  ReadArchive read;
+  read.rows = readDraws(database, onRow);
+  read.differences = differencesFromSums(database, read.rows);
+  return read;
+}
+
+void takeDifferences(Program& program, std::vector<DrawDifference> differences) {
+  if (differences != program.drawDifferences) program.differencesSeen = false;
+  program.drawDifferences = std::move(differences);
+  if (program.container != nullptr) program.container->MostraVerifica();
 }
 
 }  // namespace
@@ -53,19 +70,20 @@ void fillFgDB(const std::vector<DrawRow>& rows, Grid& FgDB) {
 }
 
 std::vector<DrawRow> loadArchive(Program& program, const std::function<void(int row, int rows)>& onRow) {
-  std::vector<DrawRow> rows = readChosenArchive(program, onRow);
+  auto [rows, differences] = readChosenArchive(program, onRow);
   Archive archive;
   archive.loadNumbers(rows);
   archive.countProgressives();
   archive.setModelFrom(program.EstrazioneIniziale);
   program.archive = std::move(archive);
   program.loadedArchive = program.PercorsoDbArchivio;
-  return rows;
+  takeDifferences(program, std::move(differences));
+  return std::move(rows);
 }
 
 std::vector<DrawRow> CaricaArchivioExNovo(Program& program) {
   // The bar of the shell moves at every fiftieth row only.
-  std::vector<DrawRow> rows = readChosenArchive(program, [&](int row, int all) {
+  auto [rows, differences] = readChosenArchive(program, [&](int row, int all) {
     if (row % 50 == 0) program.shell.progress(row, all + 1);
   });
   program.archive.loadNumbers(rows);
@@ -77,13 +95,26 @@ std::vector<DrawRow> CaricaArchivioExNovo(Program& program) {
   if (program.container != nullptr) program.container->ImpostazioniArchivioModello();
   program.archive.setWholeModel();
   if (program.container != nullptr) program.container->CaricaFG5();
-  return rows;
+  takeDifferences(program, std::move(differences));
+  return std::move(rows);
+}
+
+std::string describeArchive(const Program& program, const std::vector<DrawRow>& rows) {
+  std::string text = fmt::format("{} estrazioni", rows.size());
+  if (const std::size_t count = program.drawDifferences.size(); count > 0)
+    text += count == 1 ? "; una non è come fu registrata" : fmt::format("; {} non sono come furono registrate", count);
+  if (const IrregularWheels wheels = irregularWheels(rows); wheels.count > 0)
+    text += fmt::format("; {} senza cinque numeri diversi da 1 a 90 ({}il {})",
+                        wheels.count == 1 ? "una ruota" : fmt::format("{} ruote", wheels.count),
+                        wheels.count == 1 ? "" : "la prima ", wheels.firstDate);
+  return text;
 }
 
 void CaricaTabellaArchivio(Program& program, Grid& FgDB) {
-  const std::vector<DrawRow> rows = readChosenArchive(program);
+  auto [rows, differences] = readChosenArchive(program);
   program.archive.loadNumbers(rows);
   fillFgDB(rows, FgDB);
+  takeDifferences(program, std::move(differences));
 }
 
 }  // namespace trv5

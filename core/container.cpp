@@ -1,6 +1,10 @@
 #include "core/container.h"
 
+#include <fmt/format.h>
+
 #include <utility>
+
+#include "core/verifica_archivio.h"
 
 namespace trv5 {
 
@@ -28,6 +32,8 @@ Container::Container(Program& program)
       Lbl_inizioNE(*this, "Lbl_inizioNE"),
       Lbl_fineNE(*this, "Lbl_fineNE"),
       Lbl_Ev(*this, "Lbl_Ev"),
+      Cmd_Verifica(*this, "Cmd_Verifica", "", "Mostra le estrazioni che non sono come furono registrate"),
+      Lbl_Verifica(*this, "Lbl_Verifica"),
       Pb1(*this, "Pb1"),
       FG5(*this, "FG5", "|N° estr|Data|PA|PM"),
       m_program(program) {
@@ -38,6 +44,12 @@ Container::Container(Program& program)
   opens(Command2, "ImportExport");
   opens(Command3, "FunzioniAggiuntive");
   opens(Command7, "DiDiSO");
+  Cmd_Verifica.onEvent([this] {
+    // Opened before, it may show the differences of an earlier load.
+    static_cast<VerificaArchivio&>(shell().show("VerificaArchivio")).load();
+    m_program.differencesSeen = true;
+    MostraVerifica();
+  });
   Command33.onEvent([this] {
     setHelpContext(kHelpContext);
     shell().help(kHelpContext);
@@ -65,6 +77,16 @@ void Container::load() {
   Lbl_Ev.setFore(VerdeBuio);
   CaricaFG5();
   ImpostazioniArchivioModello();
+  MostraVerifica();
+}
+
+void Container::MostraVerifica() {
+  const std::size_t count = m_program.drawDifferences.size();
+  const std::string text = count == 0   ? ""
+                           : count == 1 ? "1 estrazione da verificare"
+                                        : fmt::format("{} estrazioni da verificare", count);
+  Cmd_Verifica.setCaption(text);
+  Lbl_Verifica.setText(m_program.differencesSeen ? "" : text);
 }
 
 void Container::CaricaFG5() {

@@ -113,9 +113,12 @@ void Inizio::Procedi() {
     pb1.set(0, 0);
     shell().message({.text = std::string(kOtherArchive), .icon = Icon::Critical, .reason = std::move(reason)});
   };
+  std::string loaded;
   try {
     // The bar counts the rows of the query's grid, the heading included.
-    fillFgDB(loadArchive(m_program, [this](int row, int rows) { pb1.set(row, rows + 1); }), FgDB);
+    const auto rows = loadArchive(m_program, [this](int row, int all) { pb1.set(row, all + 1); });
+    fillFgDB(rows, FgDB);
+    loaded = describeArchive(m_program, rows);
   } catch (const UserError& error) {
     return failed(error.what());
   } catch (const std::exception&) {
@@ -125,7 +128,7 @@ void Inizio::Procedi() {
   if (m_program.DbArchivio == nullptr)
     m_program.DbArchivio = std::make_unique<Database>(m_program.PercorsoDbArchivio, FileKind::Archive);
   shell().show("Container");
-  shell().status(fmt::format("Archivio caricato: {} estrazioni", m_program.archive.NumEstrazioni()));
+  shell().status("Archivio caricato: " + loaded);
   shell().close(name());
 }
 

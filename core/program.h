@@ -8,6 +8,7 @@
 
 #include "core/archive.h"
 #include "core/database.h"
+#include "core/draw_sums.h"
 #include "core/parameters.h"
 #include "core/shell.h"
 
@@ -47,6 +48,9 @@ struct Program {
   Archive archive;
   /// Where the draws in memory come from; empty before the first load.
   std::filesystem::path loadedArchive;
+  /// Draws of the archive in memory that aren't as they were written, and whether the user has looked at them.
+  std::vector<DrawDifference> drawDifferences;
+  bool differencesSeen = false;
 
   std::string IndirizzoInternet;   ///< where published draws are; unread, kept for their update
   int EstrazioneIniziale = 0;      ///< the first draw of the model archive

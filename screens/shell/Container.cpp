@@ -214,6 +214,14 @@ void ContainerScreen::buildStatusBlock(QBoxLayout& into) {
   for (int c = 0; c < 3; ++c) block->setColumnStretch(c, 1);
   panel->body()->addLayout(block);
   into.addWidget(panel);
+  // There only while the archive has something to be looked at.
+  QPushButton* const verify = m_kit.button("Cmd_Verifica", {.kind = ButtonKind::Quiet, .icon = "archive"});
+  auto& verifyControl = m_form.get<Button>("Cmd_Verifica");
+  follow(*verify, verifyControl, [verify, &verifyControl] {
+    verify->setText(qs(verifyControl.caption()));
+    verify->setVisible(!verifyControl.caption().empty());
+  });
+  into.addWidget(verify);
 
   // The last draw also stands in the status bar.
   m_lastDate = quietLabel({});
@@ -237,7 +245,9 @@ void ContainerScreen::buildStatusBar() {
   statusBar()->addWidget(m_status, 1);
   QProgressBar* const bar = m_kit.progress("Pb1");
   bar->setFixedWidth(180);
-  QWidget* const right = holding(row({m_lastDate, Piece::space(), m_lastIndex, Piece::space(), bar}));
+  QLabel* const verify = m_kit.label("Lbl_Verifica", Type::Small);
+  QWidget* const right =
+      holding(row({verify, Piece::space(), m_lastDate, Piece::space(), m_lastIndex, Piece::space(), bar}));
   right->layout()->setContentsMargins(0, 0, 10, 0);
   statusBar()->addPermanentWidget(right);
 }

@@ -3,12 +3,14 @@
 #include "cases/selections.h"
 #include "core/container.h"
 #include "core/inizio.h"
+#include "core/verifica_archivio.h"
 #include "desk/equip_workbench.h"
 #include "screens/ElencoRiscontri.h"
 #include "screens/Estrazioni_minielenco.h"
 #include "screens/EvoluzioneGrafica.h"
 #include "screens/INIZIO.h"
 #include "screens/Speciale.h"
+#include "screens/VerificaArchivio.h"
 #include "screens/shell/Container.h"
 #include "screens/workbench/Sommativi1.h"
 
@@ -61,6 +63,8 @@ std::vector<ScreenEntry> allScreens() {
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed, {1000, 520}),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
+      loaded<VerificaArchivio>(
+          entry<VerificaArchivio, VerificaArchivioScreen>("VerificaArchivio", Place::Framed, {1200, 420})),
   };
 }
 

@@ -71,7 +71,8 @@ inline ScreenEntry smallEntry(const std::string& name, Place place) {
 struct WindowWorld {
   static std::vector<ScreenEntry> screens() {
     std::vector<ScreenEntry> all = allScreens();
-    std::erase_if(all, [](const ScreenEntry& entry) { return entry.place != Place::Window; });
+    std::erase_if(
+        all, [](const ScreenEntry& entry) { return entry.place != Place::Window && entry.name != "VerificaArchivio"; });
     all.push_back(smallEntry("Sommativi1", Place::Fills));
     all.push_back(smallEntry("archivio", Place::Fills));
     all.push_back(smallEntry("Estrazioni_minielenco", Place::Framed));

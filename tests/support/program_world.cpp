@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "core/verifica_archivio.h"
+
 namespace trv5 {
 
 ProgramWorld::ProgramWorld() {
@@ -15,6 +17,11 @@ ProgramWorld::ProgramWorld() {
     auto screen = std::make_unique<Container>(*program);
     screen->load();
     m_container = screen.get();
+    return screen;
+  });
+  shell.addScreen("VerificaArchivio", [this] {
+    auto screen = std::make_unique<VerificaArchivio>(*program);
+    screen->load();
     return screen;
   });
 }
