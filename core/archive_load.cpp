@@ -37,6 +37,8 @@ void takeDifferences(Program& program, std::vector<DrawDifference> differences) 
 }  // namespace
 
 std::vector<DrawRow> readDraws(const Database& archive, const std::function<void(int row, int rows)>& onRow) {
+  archive.requireTable("EstrazioniLotto",
+                       {"DataEstrazione", "Ba", "Ca", "Fi", "Ge", "Mi", "Na", "Pa", "Ro", "To", "Ve", "Nz"});
   Statement count = archive.prepare("SELECT count(*) FROM EstrazioniLotto");
   count.step();
   const int all = static_cast<int>(count.number(0));

@@ -9,11 +9,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <utility>
+#include <vector>
 
 #include "core/database_marks.h"
 #include "core/file_writer.h"
 #include "core/password.h"
+#include "core/replaced_file.h"
+#include "core/text.h"
 
 namespace trv5 {
 namespace {
@@ -22,6 +27,13 @@ namespace fs = std::filesystem;
 using Reason = DatabaseError::Reason;
 
 constexpr int kBusyTimeoutMs = 2000;
+constexpr std::chrono::seconds kLongestStatement{2};
+constexpr int kLongestText = 1'000'000;  // bytes, of a row too; the longest of ours have some hundreds
+
+// A full archive has some 3 MB; the main database grows with the configurations saved.
+constexpr std::uintmax_t largestFile(FileKind kind) {
+  return std::uintmax_t{kind == FileKind::Archive ? 64U : 512U} << 20;
+}
 
 Reason reasonOfCode(int code, bool readOnly) {
   if (code == SQLITE_READONLY_DBMOVED) return Reason::Replaced;
@@ -42,12 +54,17 @@ Reason reasonOfCode(int code, bool readOnly) {
     case SQLITE_CONSTRAINT:
     case SQLITE_MISMATCH:
       return Reason::Constraint;
+    case SQLITE_INTERRUPT:
+      return Reason::TooSlow;
+    case SQLITE_TOOBIG:
+      return Reason::WrongShape;
     default:
       return Reason::Other;
   }
 }
 
-std::string reasonText(Reason reason, const char* detail) {
+// `why`: the reason in Italian where the kind leaves it open.
+std::string reasonText(Reason reason, const std::string& why) {
   switch (reason) {
     case Reason::Missing:
       return "il file non esiste";
@@ -59,6 +76,14 @@ std::string reasonText(Reason reason, const char* detail) {
       return "è stato scritto da una versione più recente di TRV5";
     case Reason::OtherPassword:
       return "la password è un'altra";
+    case Reason::Empty:
+      return "è vuoto";
+    case Reason::TooLarge:
+      return "è troppo grande per un file di TRV5";
+    case Reason::WrongShape:
+      return "le sue tabelle non sono quelle di TRV5" + (why.empty() ? "" : " (" + why + ")");
+    case Reason::TooSlow:
+      return "il suo contenuto non si lascia leggere in tempo utile";
     case Reason::Damaged:
       return "il file è danneggiato o troncato";
     case Reason::Locked:
@@ -70,25 +95,49 @@ std::string reasonText(Reason reason, const char* detail) {
     case Reason::DiskFull:
       return "il disco è pieno";
     case Reason::Constraint:
-      return fmt::format("un dato non è ammesso o esiste già ({})", detail);
+      return "un dato non è ammesso o esiste già";
     case Reason::Other:
-      return detail;
+      break;
   }
-  return detail;
+  return why.empty() ? "la libreria dei dati dà un errore" : why;
 }
 
 bool allowed(const fs::path& path, int access) {
   return faccessat(AT_FDCWD, path.c_str(), access, AT_EACCESS) == 0;
 }
 
-DatabaseError errorOf(std::string_view attempt, const fs::path& file, Reason reason, const char* detail = "") {
-  return {reason,
-          fmt::format("Il file \"{}\" non può essere {}: {}.", file.string(), attempt, reasonText(reason, detail))};
+DatabaseError errorOf(std::string_view attempt, const fs::path& file, Reason reason, const std::string& why = {},
+                      std::string details = {}) {
+  return {reason, fmt::format("Il file \"{}\" non può essere {}: {}.", file.string(), attempt, reasonText(reason, why)),
+          std::move(details)};
+}
+
+// Nothing is opened that could make the program wait or fill its memory.
+void refuseSpecialFiles(const fs::path& file, FileKind kind, const struct stat& status) {
+  if (!S_ISREG(status.st_mode)) throw errorOf("aperto", file, Reason::NotADatabase);
+  if (status.st_size == 0) throw errorOf("aperto", file, Reason::Empty);
+  if (static_cast<std::uintmax_t>(status.st_size) > largestFile(kind)) throw errorOf("aperto", file, Reason::TooLarge);
+  for (const fs::path& companion : companionsOf(file)) {
+    struct stat beside {};
+    if (stat(companion.c_str(), &beside) == 0 && S_ISREG(beside.st_mode) &&
+        static_cast<std::uintmax_t>(beside.st_size) <= largestFile(kind))
+      continue;
+    throw errorOf(
+        "aperto", file, Reason::Other,
+        fmt::format("accanto c'è \"{}\", che non è il resto di una scrittura", companion.filename().string()));
+  }
+}
+
+fs::path absolutePath(const fs::path& file) {
+  std::error_code error;
+  const fs::path whole = fs::absolute(file, error);
+  return error ? file : whole;
 }
 
 }  // namespace
 
 Statement::Statement(const Database& database, const std::string& sql) : m_database(&database) {
+  database.restartClock();
   try {
     m_statement = std::make_unique<SQLite::Statement>(*database.m_database, sql);
   } catch (const SQLite::Exception&) {
@@ -119,14 +168,16 @@ Statement& Statement::bindOrNull(int parameter, std::string_view text) {
 }
 
 bool Statement::step() {
+  if (!m_running) m_database->restartClock();
   try {
-    return m_statement->executeStep();
+    return m_running = m_statement->executeStep();
   } catch (const SQLite::Exception&) {
     m_database->fail("letto");
   }
 }
 
 int Statement::run() {
+  m_database->restartClock();
   try {
     const int changed = m_statement->exec();
     m_statement->reset();
@@ -138,6 +189,7 @@ int Statement::run() {
 }
 
 void Statement::reset() {
+  m_running = false;
   m_statement->reset();
 }
 
@@ -165,9 +217,12 @@ std::string_view Statement::view(int column) const {
 
 Database::Database(const fs::path& file, FileKind kind, std::string_view password) {
   struct stat status {};
-  if (!file.empty()) m_path = fs::absolute(file);
-  if (file.empty() || stat(m_path.c_str(), &status) != 0) throw errorOf("aperto", m_path, Reason::Missing);
-  if (!S_ISREG(status.st_mode)) throw errorOf("aperto", m_path, Reason::NotADatabase);
+  if (!file.empty()) m_path = absolutePath(file);
+  if (file.empty() || stat(m_path.c_str(), &status) != 0) {
+    const bool missing = file.empty() || errno == ENOENT || errno == ENOTDIR;
+    throw errorOf("aperto", m_path, missing ? Reason::Missing : Reason::Other, reasonOf(errno));
+  }
+  refuseSpecialFiles(m_path, kind, status);
   m_device = status.st_dev;
   m_inode = status.st_ino;
   try {
@@ -180,14 +235,13 @@ Database::Database(const fs::path& file, FileKind kind, std::string_view passwor
 Database::~Database() = default;
 
 void Database::open(FileKind kind, std::string_view password) {
-  if (!allowed(m_path, R_OK)) throw errorOf("aperto", m_path, Reason::Other, reasonOf(EACCES).c_str());
+  if (!allowed(m_path, R_OK)) throw errorOf("aperto", m_path, Reason::Other, reasonOf(EACCES));
   // SQLite itself falls back to reading where the file can't be written.
   m_database = std::make_unique<SQLite::Database>(m_path.string(), SQLite::OPEN_READWRITE, kBusyTimeoutMs);
   sqlite3* const handle = m_database->getHandle();
   m_readOnly = sqlite3_db_readonly(handle, "main") == 1 || !allowed(m_path.parent_path(), W_OK);
 
-  // Before anything of the file's own schema is looked at.
-  sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  protect();  // before anything of the file's own schema is looked at
   m_database->exec("PRAGMA trusted_schema = OFF; PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
   if (m_database->execAndGet("PRAGMA application_id").getInt() != applicationId(kind))
     throw errorOf("aperto", m_path, Reason::OtherProgram);
@@ -195,6 +249,32 @@ void Database::open(FileKind kind, std::string_view password) {
     throw errorOf("aperto", m_path, Reason::NewerVersion);
   checkPassword(password);
   configure();
+}
+
+void Database::protect() {
+  sqlite3* const handle = m_database->getHandle();
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+  sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+  struct Limit {
+    int what, most;
+  };
+  for (const Limit& limit : {Limit{SQLITE_LIMIT_LENGTH, kLongestText}, Limit{SQLITE_LIMIT_SQL_LENGTH, 100'000},
+                             Limit{SQLITE_LIMIT_COLUMN, 200}, Limit{SQLITE_LIMIT_EXPR_DEPTH, 100},
+                             Limit{SQLITE_LIMIT_COMPOUND_SELECT, 20}, Limit{SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 100},
+                             Limit{SQLITE_LIMIT_TRIGGER_DEPTH, 1}, Limit{SQLITE_LIMIT_WORKER_THREADS, 0}})
+    sqlite3_limit(handle, limit.what, limit.most);
+  constexpr int kStepsBetweenLooks = 1000;
+  restartClock();
+  sqlite3_progress_handler(handle, kStepsBetweenLooks, isLate, this);
+}
+
+void Database::restartClock() const {
+  m_deadline = std::chrono::steady_clock::now() + kLongestStatement;
+}
+
+int Database::isLate(void* database) {
+  return std::chrono::steady_clock::now() > static_cast<const Database*>(database)->m_deadline ? 1 : 0;
 }
 
 void Database::checkPassword(std::string_view password) const {
@@ -218,6 +298,7 @@ Statement Database::prepare(const std::string& sql) const {
 }
 
 void Database::execute(const std::string& sql) {
+  restartClock();
   try {
     m_database->exec(sql);
   } catch (const SQLite::Exception&) {
@@ -230,8 +311,26 @@ std::int64_t Database::lastInsertedKey() const {
 }
 
 bool Database::hasTable(std::string_view table) const {
-  Statement find = prepare("SELECT 1 FROM sqlite_schema WHERE type IN ('table', 'view') AND name = ? COLLATE NOCASE");
+  // A virtual table has no page of its own; what the schema calls a table may be made by another statement.
+  Statement find = prepare(
+      "SELECT 1 FROM sqlite_schema WHERE type = 'table' AND rootpage > 0 AND sql LIKE 'CREATE TABLE %' AND name = ? "
+      "COLLATE NOCASE");
   return find.bind(1, table).step();
+}
+
+void Database::requireTable(std::string_view table, std::initializer_list<std::string_view> columns) const {
+  const auto refuse = [&](const std::string& why) { throw errorOf("usato", m_path, Reason::WrongShape, why); };
+  if (!hasTable(table)) refuse(fmt::format("manca la tabella {}", table));
+  Statement fields = prepare("SELECT name, hidden FROM pragma_table_xinfo(?)");
+  fields.bind(1, table);
+  std::vector<std::string> names;
+  while (fields.step()) {
+    names.push_back(fields.text(0));
+    if (fields.number(1) != 0) refuse(fmt::format("il campo {} di {} è calcolato", names.back(), table));
+  }
+  for (const std::string_view column : columns)
+    if (std::none_of(names.begin(), names.end(), [&](const auto& name) { return equalIgnoringCase(name, column); }))
+      refuse(fmt::format("manca il campo {} di {}", column, table));
 }
 
 bool Database::hasField(std::string_view table, std::string_view field) const {
@@ -252,8 +351,8 @@ void Database::fail(std::string_view attempt) const {
     const int extended = error.getExtendedErrorCode(), code = extended & 0xFF;
     const int system = m_database == nullptr ? 0 : sqlite3_system_errno(m_database->getHandle());
     const bool systemFailed = (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && system != 0;
-    throw errorOf(attempt, m_path, reasonOfCode(extended, m_readOnly),
-                  systemFailed ? reasonOf(system).c_str() : error.what());
+    throw errorOf(attempt, m_path, reasonOfCode(extended, m_readOnly), systemFailed ? reasonOf(system) : std::string(),
+                  error.what());
   }
 }
 

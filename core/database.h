@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,6 +29,10 @@ class DatabaseError : public UserError {
     OtherProgram,   ///< a database of another program or of another kind
     NewerVersion,   ///< written by a later version of this program
     OtherPassword,  ///< the file asks for a password that wasn't given, or for another one
+    Empty,          ///< no byte in it
+    TooLarge,       ///< larger than any file of this program grows
+    WrongShape,     ///< its tables aren't those of this program: missing, views, columns that aren't real
+    TooSlow,        ///< a statement over it would not end in time
     Damaged,        ///< truncated or corrupt
     Locked,         ///< another program holds it
     Replaced,       ///< another file has taken the place of the open one, or it was moved away
@@ -35,7 +41,8 @@ class DatabaseError : public UserError {
     Constraint,  ///< a row against the rules of its table: a key that exists already, a date that is none
     Other
   };
-  DatabaseError(Reason reason, const std::string& text) : UserError(text), m_reason(reason) {}
+  DatabaseError(Reason reason, const std::string& text, std::string details = {})
+      : UserError(text, "Avviso", std::move(details)), m_reason(reason) {}
   Reason reason() const { return m_reason; }
 
  private:
@@ -81,11 +88,13 @@ class Statement {
 
   const Database* m_database;
   std::unique_ptr<SQLite::Statement> m_statement;
+  bool m_running = false;  // rows are being read
 };
 
 /// An open database file. Opening never makes a file. A file that can't be written is opened read-only: readOnly()
 /// tells, and the first operation that would write throws. Every setting that keeps the file safe (full sync, rollback
-/// journal, foreign keys, no trust in the file's own schema) is made here.
+/// journal, foreign keys) is made here, and every one that keeps the program safe from a file made by others: no
+/// trigger and no view runs, texts are of bounded length, no statement takes more than two seconds.
 class Database {
  public:
   /// Throws DatabaseError. A file with a password opens with that one only; a file without opens with any.
@@ -106,10 +115,13 @@ class Database {
   /// The key that the database gave to the row inserted last.
   std::int64_t lastInsertedKey() const;
 
-  /// Names of tables and fields compare without regard to case.
+  /// True for a real table only: a view or a virtual table doesn't count. Names of tables and fields compare without
+  /// regard to case.
   bool hasTable(std::string_view table) const;
   bool hasField(std::string_view table, std::string_view field) const;
 
+  /// Throws DatabaseError (WrongShape) unless the real table is there with these columns, and all its columns are real.
+  void requireTable(std::string_view table, std::initializer_list<std::string_view> columns) const;
   /// Reads the whole file and looks whether its pages, rows and indices agree. Throws DatabaseError (Damaged) when they
   /// don't.
   void checkIntegrity() const;
@@ -132,6 +144,9 @@ class Database {
  private:
   friend class Statement;
   void open(FileKind kind, std::string_view password);
+  void protect();
+  void restartClock() const;
+  static int isLate(void* database);
   void checkPassword(std::string_view password) const;
   void configure();
   /// Throws the DatabaseError of the library's error being handled.
@@ -141,6 +156,7 @@ class Database {
   std::unique_ptr<SQLite::Database> m_database;
   bool m_readOnly = false;
   std::uint64_t m_device = 0, m_inode = 0;
+  mutable std::chrono::steady_clock::time_point m_deadline;  // of the statement begun last
 };
 
 }  // namespace trv5

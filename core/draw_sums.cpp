@@ -56,6 +56,7 @@ std::vector<DrawDifference> differencesFromSums(const Database& archive, const s
   using Kind = DrawDifference::Kind;
   std::vector<DrawDifference> differences;
   if (!archive.hasTable(kTable)) return differences;
+  archive.requireTable(kTable, {"DataEstrazione", "Somma"});
   std::unordered_map<std::string, std::int64_t> sums;
   sums.reserve(rows.size());
   Statement query = archive.prepare("SELECT DataEstrazione, Somma FROM VerificaEstrazioni");

@@ -60,7 +60,7 @@ void Inizio::openArchive() {
   };
   try {
     return open();
-  } catch (const UserError& error) {
+  } catch (const std::exception& error) {
     const bool first = m_program.PercorsoDbArchivio.empty();
     shell().message({.text = "Attenzione, la prima volta è necessario configurare l'origine dell'archivio",
                      .title = "Selezionare Archivio",
@@ -76,7 +76,7 @@ void Inizio::openArchive() {
   if (!chosen) return;
   try {
     open();
-  } catch (const UserError&) {
+  } catch (const std::exception&) {
     m_program.DbArchivio.reset();  // PROCEDI will say so
   }
 }

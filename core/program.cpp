@@ -65,6 +65,7 @@ void Program::openMainDatabase() {
     throw UserError(
         fmt::format("Il file \"{}\" non può essere usato: manca la tabella {}.", PercorsoDbParametri.string(), table));
   }
+  DbParametri->requireTable("ParametriProgramma", {"Parametro", "Valore1", "Valore2"});
 }
 
 Database& Program::mainDatabase() const {

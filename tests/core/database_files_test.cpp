@@ -6,6 +6,7 @@
 #include "core/archive_load.h"
 #include "support/archive_builder.h"
 #include "support/broken_world.h"
+#include "support/left_journal.h"
 #include "support/temp_folder.h"
 
 namespace trv5 {
@@ -165,8 +166,11 @@ TEST(DatabaseFiles, TheArchiveTakesTheMomentOfWritingOrNone) {
 TEST(DatabaseFiles, TheViewOfTheCalendarGivesYearMonthDayAndDate) {
   TempFolder folder;
   createArchive(folder / "a.mdb", {drawOf("07/01/1939", {})}, Existing::Refuse);
+  // Other programs use the view; this one runs none.
+  { const OtherProgram other(folder / "a.mdb", "CREATE TABLE Copia AS SELECT * FROM Query_AAMMGG"); }
   const Database database(folder / "a.mdb", FileKind::Archive);
-  Statement row = database.prepare("SELECT A, M, G, DataEstrazione FROM Query_AAMMGG");
+  EXPECT_THROW(database.prepare("SELECT * FROM Query_AAMMGG"), DatabaseError);
+  Statement row = database.prepare("SELECT A, M, G, DataEstrazione FROM Copia");
   ASSERT_TRUE(row.step());
   EXPECT_EQ(row.number(0), 1939);
   EXPECT_EQ(row.number(1), 1);

@@ -76,7 +76,7 @@ TEST(Database, RefusesTheFilesOfOtherProgramsAndOtherKinds) {
   createExportFile(folder / "export.mdb", Existing::Refuse);
   EXPECT_EQ(failureOf(folder / "export.mdb"), Reason::OtherProgram);
   writeBytes(folder / "empty.mdb", "");
-  EXPECT_EQ(failureOf(folder / "empty.mdb"), Reason::OtherProgram);
+  EXPECT_EQ(failureOf(folder / "empty.mdb"), Reason::Empty);
   EXPECT_EQ(std::filesystem::file_size(folder / "empty.mdb"), 0u);
 }
 
