@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <system_error>
+#include <utility>
 
 #include "core/errors.h"
 #include "core/replaced_file.h"
@@ -33,6 +35,47 @@ fs::path behindLinks(const fs::path& target) {
   std::error_code error;
   const fs::path real = fs::is_symlink(target, error) ? fs::canonical(target, error) : fs::path();
   return real.empty() ? fs::absolute(target) : real;
+}
+
+// A temporary file is named ".<target>.trv5-XXXXXX" and locked by the process that writes it. The lock goes with the
+// process, however it ends: a file that can be locked is nobody's any more.
+constexpr std::string_view kMark = ".trv5-";
+constexpr std::size_t kRandom = 6;
+
+bool hasTemporaryName(std::string_view name) {
+  return name.size() > 1 + kMark.size() + kRandom && name.front() == '.' &&
+         name.substr(name.size() - kRandom - kMark.size(), kMark.size()) == kMark;
+}
+
+void clearLeftFiles(const fs::path& folder) {
+  std::error_code error;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+    if (!hasTemporaryName(entry.path().filename().native()) ||
+        entry.symlink_status(error).type() != fs::file_type::regular)
+      continue;
+    const int descriptor = open(entry.path().c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) continue;
+    struct stat status {};
+    if (fstat(descriptor, &status) == 0 && status.st_uid == geteuid() && flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+      unlink(entry.path().c_str());
+    close(descriptor);
+  }
+}
+
+// Makes and locks the temporary file; `name` becomes its path. Negative on failure, as open.
+int makeTemporary(const fs::path& target, std::string& name) {
+  constexpr std::size_t kLongestName = 255 - 1 - kMark.size() - kRandom;
+  const std::string shown = target.filename().string().substr(0, kLongestName);
+  for (;;) {
+    name = (target.parent_path() / fmt::format(".{}{}XXXXXX", shown, kMark)).string();
+    const int descriptor = mkostemp(name.data(), O_CLOEXEC);
+    if (descriptor < 0) return descriptor;
+    flock(descriptor, LOCK_EX);
+    // Another program may have taken it for one left behind before it was locked.
+    struct stat status {};
+    if (fstat(descriptor, &status) != 0 || status.st_nlink > 0) return descriptor;
+    close(descriptor);
+  }
 }
 
 // The name itself is on the disk only when its folder is.
@@ -69,15 +112,40 @@ std::string reasonOf(int error) {
       return "il disco dà un errore";
     case ENAMETOOLONG:
       return "il nome è troppo lungo";
+    case ELOOP:
+      return "i collegamenti girano in tondo";
+    case EBUSY:
+    case ETXTBSY:
+    case EAGAIN:
+      return "il file è occupato da un altro programma";
+    case EMFILE:
+    case ENFILE:
+      return "sono aperti troppi file";
+    case ENOMEM:
+      return "la memoria non basta";
+    case ENXIO:
+    case ENODEV:
+      return "il dispositivo non c'è";
+    case EINVAL:
+    case ENOTSUP:
+      return "il disco non ammette questa operazione";
+    case EXDEV:
+      return "è su un altro disco";
+    case ESTALE:
+    case ETIMEDOUT:
+    case ENOTCONN:
+    case EHOSTDOWN:
+      return "il disco di rete non risponde";
     default:
-      return std::strerror(error);
+      return fmt::format("il sistema dà l'errore {}", error);
   }
 }
 
 PendingFile::PendingFile(fs::path target) : m_target(behindLinks(target)) {
   refuseSpecialFile(m_target);  // before any work is done for it
-  std::string name = (m_target.parent_path() / fmt::format(".{}.XXXXXX", m_target.filename().string())).string();
-  m_descriptor = mkostemp(name.data(), O_CLOEXEC);
+  clearLeftFiles(m_target.parent_path());
+  std::string name;
+  m_descriptor = makeTemporary(m_target, name);
   if (m_descriptor < 0) fail(errno);
   m_path = name;
   struct stat old {};
@@ -106,10 +174,11 @@ void PendingFile::write(std::string_view bytes) {
 
 void PendingFile::commit(Existing existing) {
   if (fsync(m_descriptor) != 0) fail(errno);
-  const int descriptor = m_descriptor;
-  m_descriptor = -1;
-  if (close(descriptor) != 0) fail(errno);  // some disks tell of a failed write only here
-  if (existing == Existing::Refuse && fs::exists(fs::symlink_status(m_target))) fail(EEXIST);
+  // Some disks tell of a failed write only at the close; the lock stays with the other descriptor.
+  const int written = std::exchange(m_descriptor, fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0));
+  if (close(written) != 0) fail(errno);
+  std::error_code unknown;
+  if (existing == Existing::Refuse && fs::exists(fs::symlink_status(m_target, unknown))) fail(EEXIST);
   const ReplacedFile old(m_target);
   if (existing == Existing::Replace) {
     if (rename(m_path.c_str(), m_target.c_str()) != 0) fail(errno);
@@ -129,7 +198,8 @@ void PendingFile::commit(Existing existing) {
 }
 
 void PendingFile::fail(int error) const {
-  throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", m_target.string(), reasonOf(error)));
+  throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", m_target.string(), reasonOf(error)),
+                  "Avviso", std::strerror(error));
 }
 
 void writeFile(const fs::path& target, std::string_view bytes, Existing existing) {
@@ -138,10 +208,11 @@ void writeFile(const fs::path& target, std::string_view bytes, Existing existing
   file.commit(existing);
 }
 
-std::string readFile(const fs::path& file) {
-  const auto fail = [&](int error) {
-    throw UserError(fmt::format("Il file \"{}\" non può essere letto: {}.", file.string(), reasonOf(error)));
+std::string readFile(const fs::path& file, std::size_t maxBytes) {
+  const auto refuse = [&](const std::string& reason) {
+    throw UserError(fmt::format("Il file \"{}\" non può essere letto: {}.", file.string(), reason));
   };
+  const auto fail = [&](int error) { refuse(reasonOf(error)); };
   const int descriptor = open(file.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) fail(errno);
   std::string bytes;
@@ -154,6 +225,10 @@ std::string readFile(const fs::path& file) {
     if (got < 0) fail(error);
     if (got == 0) return bytes;
     bytes.append(block.data(), static_cast<std::size_t>(got));
+    if (bytes.size() > maxBytes) {
+      close(descriptor);
+      refuse(fmt::format("supera i {} byte che si possono leggere", maxBytes));
+    }
   }
 }
 

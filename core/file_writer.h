@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -11,7 +12,8 @@ enum class Existing { Refuse, Replace };
 
 /// A file on its way: a temporary file beside the target, in the same folder and so on the same disk. It becomes the
 /// target as a whole at commit(), after everything has been written and synced; without it the temporary file vanishes
-/// and the target stays as it was. A link to a file stays, the file it leads to is replaced; a folder, a device, a pipe
+/// and the target stays as it was. What a killed program left of such files is cleared away by the next one in the same
+/// folder. A link to a file stays, the file it leads to is replaced; a folder, a device, a pipe
 /// and a link that leads nowhere are refused, and so is a file that another program holds. All failures throw UserError
 /// and name the target.
 class PendingFile {
@@ -39,8 +41,12 @@ class PendingFile {
 /// PendingFile, databases in use excepted.
 void writeFile(const std::filesystem::path& target, std::string_view bytes, Existing existing = Existing::Replace);
 
-/// The contents of a file; throws UserError naming it when it can't be read.
-std::string readFile(const std::filesystem::path& file);
+/// The most that is read of a file where nothing else is told, in bytes.
+inline constexpr std::size_t kLargestRead = std::size_t{256} << 20;
+
+/// The contents of a file, or of a pipe up to its end; throws UserError naming it when it can't be read or goes on
+/// beyond `maxBytes`.
+std::string readFile(const std::filesystem::path& file, std::size_t maxBytes = kLargestRead);
 
 /// The reason behind an errno value, in Italian.
 std::string reasonOf(int error);

@@ -41,7 +41,8 @@ Opzioni:
   --sostituisci    prende il posto di un FILE che esiste già
 
 Il FILE compare per intero o per niente. Se una riga dello storico è errata
-sono elencate tutte quelle errate e non viene scritto nulla.
+sono elencate le prime cento errate, con il loro numero, e non viene scritto
+nulla. Di una SORGENTE si leggono al massimo 64 MB, anche da un canale.
 Stato di uscita: 0 se tutto è riuscito, 1 altrimenti.
 )";
 
@@ -153,7 +154,8 @@ std::vector<Draw> readHistory(const std::string& source) {
     std::string text;
     for (const LineFault& fault : history.faults)
       text += fmt::format("{}, riga {}: {}\n", source, fault.line, fault.reason);
-    const std::size_t count = history.faults.size();
+    const std::size_t count = history.faultCount;
+    if (count > history.faults.size()) text += "..\n";
     throw UserError(text + (count == 1 ? "Una riga è errata" : fmt::format("Le righe errate sono {}", count)) +
                     ": non è stato scritto nulla.");
   }
@@ -215,6 +217,7 @@ int runDataCommand(const std::vector<std::string>& arguments, std::ostream& outp
     errors << error.what() << "\nPer l'elenco dei comandi: trv5-data aiuto\n";
   } catch (const UserError& error) {
     errors << error.what() << '\n';
+    if (!error.details().empty()) errors << "Dettagli: " << error.details() << '\n';
   } catch (const std::exception& error) {
     errors << "Errore imprevisto: " << error.what() << '\n';
   }

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "core/errors.h"
 #include "core/file_writer.h"
@@ -16,19 +17,13 @@ namespace {
 
 constexpr std::size_t kPiece = 64 * 1024;  // bytes unpacked at a time
 
-[[noreturn]] void fail(const std::filesystem::path& path, std::string_view reason) {
-  throw UserError(fmt::format("Il file \"{}\" non può essere letto: {}.", path.string(), reason));
+[[noreturn]] void fail(const std::filesystem::path& path, std::string_view reason, std::string details = {}) {
+  throw UserError(fmt::format("Il file \"{}\" non può essere letto: {}.", path.string(), reason), "Avviso",
+                  std::move(details));
 }
 
 [[noreturn]] void tooLong(const std::filesystem::path& path, std::size_t maxBytes) {
   fail(path, fmt::format("il testo supera i {} byte che si possono leggere", maxBytes));
-}
-
-std::string readWhole(const std::filesystem::path& path, std::size_t maxBytes) {
-  std::error_code unknown;
-  const std::uintmax_t size = std::filesystem::file_size(path, unknown);
-  if (!unknown && size > maxBytes) tooLong(path, maxBytes);
-  return readFile(path);
 }
 
 // Unpacked by zlib itself: libarchive reads gzip without verifying its check sum, so that a damaged number would pass.
@@ -64,8 +59,7 @@ std::string unpackZip(const std::filesystem::path& path, const std::string& pack
   if (!reader) throw std::bad_alloc();
   const auto damaged = [&]() {
     const char* reason = archive_error_string(reader.get());
-    fail(path, fmt::format("il file compresso (zip) è danneggiato o troncato: {}",
-                           reason ? reason : "contenuto illeggibile"));
+    fail(path, "il file compresso (zip) è danneggiato o troncato", reason == nullptr ? "" : reason);
   };
   archive_read_support_format_zip(reader.get());
   if (archive_read_open_memory(reader.get(), packed.data(), packed.size()) != ARCHIVE_OK) damaged();
@@ -99,7 +93,7 @@ bool beginsWith(const std::string& bytes, std::string_view mark) {
 }  // namespace
 
 std::string readCompressedText(const std::filesystem::path& path, std::size_t maxBytes) {
-  std::string bytes = readWhole(path, maxBytes);
+  std::string bytes = readFile(path, maxBytes);
   if (beginsWith(bytes, "\x1F\x8B")) return unpackGzip(path, bytes, maxBytes);
   if (beginsWith(bytes, "PK\x03\x04") || beginsWith(bytes, "PK\x05\x06")) return unpackZip(path, bytes, maxBytes);
   return bytes;

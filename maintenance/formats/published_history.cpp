@@ -48,7 +48,9 @@ class Reader {
   void line(std::string_view text) {
     ++m_line;
     if (text.find_first_not_of(" \t") == std::string_view::npos) return;
-    if (std::string reason = read(text); !reason.empty()) m_history.faults.push_back({m_line, std::move(reason)});
+    std::string reason = read(text);
+    if (!reason.empty() && ++m_history.faultCount <= kMostFaults)
+      m_history.faults.push_back({m_line, std::move(reason)});
   }
 
   PublishedHistory finish() {

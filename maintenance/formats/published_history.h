@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,10 +16,14 @@ struct LineFault {
   bool operator==(const LineFault&) const = default;
 };
 
+/// Lines at fault that are told one by one.
+inline constexpr std::size_t kMostFaults = 100;
+
 /// What a text of the published history holds.
 struct PublishedHistory {
   std::vector<Draw> draws;        ///< in ascending order of date
-  std::vector<LineFault> faults;  ///< in the order of the lines; the draws are of use only when there is none
+  std::vector<LineFault> faults;  ///< the first kMostFaults, in the order of the lines
+  std::size_t faultCount = 0;     ///< all of them; the draws are of use only when there is none
 };
 
 /// Reads the history of draws as it is published: a line a wheel, "AAAA/MM/GG", the wheel's code, five numbers in the

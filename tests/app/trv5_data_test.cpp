@@ -175,6 +175,25 @@ TEST_F(Trv5Data, ReportsEveryBadLineWithFileAndNumberAndWritesNothing) {
   EXPECT_EQ(files(), Names{"s.txt"});
 }
 
+TEST_F(Trv5Data, OfAMillionBadLinesItPrintsAHundredAndTheirNumber) {
+  std::string text;
+  for (int i = 0; i < 1'000'000; ++i) text += "sbagliata\n";
+  writeBytes(folder / "s.txt", text);
+  const ProgramRun refused = run({"storico", "s.txt", "a.mdb"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(std::count(refused.errors.begin(), refused.errors.end(), '\n'), 102);
+  EXPECT_TRUE(holds(refused.errors, "s.txt, riga 100: "));
+  EXPECT_FALSE(holds(refused.errors, "s.txt, riga 101: "));
+  EXPECT_TRUE(holds(refused.errors, "Le righe errate sono 1000000: non è stato scritto nulla."));
+}
+
+TEST_F(Trv5Data, ADeviceWithoutAnEndIsNoSource) {
+  const ProgramRun refused = run({"storico", "/dev/zero", "a.mdb"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_TRUE(holds(refused.errors, "supera i 67108864 byte")) << refused.errors;
+  EXPECT_EQ(files(), Names{});
+}
+
 TEST_F(Trv5Data, RefusesASourceThatIsMissingEmptyOrDamaged) {
   writeBytes(folder / "vuoto.txt", "\n");
   writeBytes(folder / "rotto.gz", "\x1F\x8B\x08");
