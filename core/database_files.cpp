@@ -43,7 +43,9 @@ void createFile(const fs::path& file, FileKind kind, Existing existing, std::str
       const int system = sqlite3_system_errno(database.getHandle());
       const bool systemFailed = error.getErrorCode() == SQLITE_FULL || error.getErrorCode() == SQLITE_IOERR;
       throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(),
-                                  systemFailed ? reasonOf(system != 0 ? system : ENOSPC) : error.what()));
+                                  systemFailed ? reasonOf(system != 0 ? system : ENOSPC)
+                                               : "un dato non è ammesso o la libreria dei dati dà un errore"),
+                      "Avviso", error.what());
     }
   }
   pending.commit(existing);

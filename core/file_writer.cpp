@@ -187,7 +187,7 @@ void PendingFile::commit(Existing existing) {
     // stick) get a rename after a last look.
     if (link(m_path.c_str(), m_target.c_str()) == 0) {
       unlink(m_path.c_str());
-    } else if (errno == EEXIST || fs::exists(m_target)) {
+    } else if (errno == EEXIST || fs::exists(m_target, unknown)) {
       fail(EEXIST);
     } else if (rename(m_path.c_str(), m_target.c_str()) != 0) {
       fail(errno);

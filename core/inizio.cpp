@@ -71,7 +71,7 @@ void Inizio::openArchive() {
   try {
     chosen = SelezionaArchivio();
   } catch (const UserError& error) {
-    shell().message({.text = error.what(), .title = error.title(), .icon = Icon::Critical});
+    shell().message({.text = error.what(), .title = error.title(), .icon = Icon::Critical, .reason = error.details()});
   }
   if (!chosen) return;
   try {
@@ -91,20 +91,24 @@ bool Inizio::SelezionaArchivio() {
       {.title = "File di archivio (*.Mdb)", .folder = m_program.folder, .filter = "*.mdb", .defaultExtension = "Mdb"});
   if (!chosen) return false;
   // The choice serves this run even where it can't be stored; what couldn't be is told when all is done.
-  std::string failure;
+  std::string failure, details;
   try {
     writeFile(m_program.folder / "PercorsoDatabase.txt", fmt::format("\"{}\"\r\n", chosen->string()));
   } catch (const UserError& error) {
     failure = error.what();
+    details = error.details();
   }
   m_program.PercorsoDbArchivio = *chosen;
+  constexpr std::string_view kNotStored = "La scelta vale solo per questa esecuzione: non può essere memorizzata";
   try {
-    m_program.parameters().setValore1("PercorsoArchivio", chosen->string());
+    if (!m_program.parameters().setValore1("PercorsoArchivio", chosen->string()))
+      failure = fmt::format("{} (nel database principale manca il parametro PercorsoArchivio).", kNotStored);
   } catch (const UserError& error) {
-    failure = fmt::format("La scelta vale solo per questa esecuzione: non può essere memorizzata. {}", error.what());
+    failure = fmt::format("{}. {}", kNotStored, error.what());
+    details = error.details();
   }
   Lbl_Archivio.setText("Database: " + chosen->string());
-  if (!failure.empty()) throw UserError(failure);
+  if (!failure.empty()) throw UserError(failure, "Avviso", details);
   return true;
 }
 

@@ -170,7 +170,10 @@ TEST(Start, WithoutARowPercorsoArchivioTheChoiceServesThisRunAndNothingIsStored)
   inizio.Command2.press();
   EXPECT_TRUE(world.shell.isOpen("Container"));
   EXPECT_EQ(world.program->archive.NumEstrazioni(), 3);
-  EXPECT_EQ(world.shell.texts(), (std::vector<std::string>{kFirstTime, ""}));
+  EXPECT_EQ(world.shell.texts(),
+            (std::vector<std::string>{kFirstTime, "",
+                                      "La scelta vale solo per questa esecuzione: non può essere memorizzata (nel "
+                                      "database principale manca il parametro PercorsoArchivio)."}));
 }
 
 TEST(Start, ParametersAreTakenAndMissingOnesKeepTheirInitialValue) {
