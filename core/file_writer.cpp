@@ -129,8 +129,6 @@ std::string reasonOf(int error) {
     case EINVAL:
     case ENOTSUP:
       return "il disco non ammette questa operazione";
-    case EXDEV:
-      return "è su un altro disco";
     case ESTALE:
     case ETIMEDOUT:
     case ENOTCONN:
