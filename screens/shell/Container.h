@@ -67,6 +67,7 @@ class ContainerScreen : public QMainWindow {
   void layoutParts();
   int railWidth() const;
   void fitChip();
+  void noteFittedWindows();
   void fitSmallWindows();
   void keepInSight(int widthBefore);
   void setWide(bool wide);
