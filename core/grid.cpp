@@ -251,6 +251,11 @@ void Grid::setWidth(int column, int width) {
   notify({});
 }
 
+void Grid::fitColumns() {
+  ++m_fitsAsked;
+  notify({});
+}
+
 void Grid::setCellSize(int size) {
   m_cellSize = size;
   notify({});

@@ -109,6 +109,10 @@ class Grid {
   /// Width of a column as told in the grid's own unit, 0 where none is told.
   int width(int column) const;
   void setWidth(int column, int width);
+  /// Asks the view to fit the columns to what they hold, once.
+  void fitColumns();
+  /// How often that was asked.
+  int fitsAsked() const { return m_fitsAsked; }
   /// Height of the rows and width of the columns as told in the grid's own unit, 0 where none is told.
   int cellSize() const { return m_cellSize; }
   void setCellSize(int size);
@@ -150,6 +154,7 @@ class Grid {
   std::map<std::pair<int, int>, Bar> m_bars;
   std::map<int, int> m_widths;
   int m_cellSize = 0;
+  int m_fitsAsked = 0;  // of the view: no part of the value
   std::map<int, std::vector<std::string>> m_choices;
 
   std::function<void(const GridChange&)> m_listener;

@@ -163,6 +163,23 @@ std::string cellsHtml(const Grid& grid, const std::vector<std::pair<int, int>>& 
   return out + "</table>";
 }
 
+std::string tabbedHtml(std::string_view text) {
+  std::string out = "<table>";
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find("\r\n"), text.size());
+    std::string_view row = text.substr(0, end);
+    text.remove_prefix(std::min(end + 2, text.size()));
+    out += "<tr>";
+    for (std::size_t from = 0; from <= row.size();) {
+      const std::size_t tab = std::min(row.find('\t', from), row.size());
+      out += "<td>" + escaped(std::string(row.substr(from, tab - from))) + "</td>";
+      from = tab + 1;
+    }
+    out += "</tr>";
+  }
+  return out + "</table>";
+}
+
 std::string csvText(const Grid& grid) {
   const std::vector<int> columns = visibleColumns(grid);
   std::string out = "\xEF\xBB\xBF";

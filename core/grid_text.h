@@ -20,6 +20,9 @@ std::string cellsText(const Grid& grid, const std::vector<std::pair<int, int>>& 
 /// The same block as an HTML table with the colours of the cells.
 std::string cellsHtml(const Grid& grid, const std::vector<std::pair<int, int>>& cells);
 
+/// A text of rows ended by CR LF and columns separated by tabs as an HTML table.
+std::string tabbedHtml(std::string_view text);
+
 /// What is visible of the table as a CSV file: UTF-8 with its mark, fields separated by semicolons as Italian
 /// spreadsheets expect, a field in double quotes where it needs them, rows ended by CR LF.
 std::string csvText(const Grid& grid);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/grid.h"
 #include "core/operation_depth.h"
@@ -36,11 +37,13 @@ struct FileBox {
   std::filesystem::path folder;
   std::string filter = {};            ///< a pattern such as "*.mdb"
   std::string defaultExtension = {};  ///< added to a name typed without one, no dot
+  std::string name = {};              ///< of a file to save: the one offered, without a folder
 };
 
 /// How a grid is printed. Margins in twentieths of a point, the grids' own unit.
 struct PrintSetup {
   std::string title = {};
+  std::vector<std::string> header = {};  ///< lines above the table on each page: what it shows, how it came to be
   bool landscape = true;
   int horizontalMargin = 450;
   int verticalMargin = 450;
