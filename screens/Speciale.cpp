@@ -11,7 +11,8 @@ SpecialeScreen::SpecialeScreen(Speciale& form) : Screen(form) {
   const int unit = Theme::current().unit();
   layout->setContentsMargins(unit, unit, unit, unit);
   const QString number = QStringLiteral("88"), draw = QStringLiteral("8888");
-  layout->addWidget(kit.grid("Fg1", {.samples = {number, draw,   {},     draw,   QStringLiteral("88/88/8888"),
+  layout->addWidget(kit.grid("Fg1", {.name = QStringLiteral("Sfaldamenti configurazioni"),
+                                     .samples = {number, draw,   {},     draw,   QStringLiteral("88/88/8888"),
                                                  number, {},     number, number, number,
                                                  number, number, number, number, number,
                                                  number, number, number, number, QStringLiteral("NZ")}}),

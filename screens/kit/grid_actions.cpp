@@ -1,4 +1,6 @@
 // What the user does with a whole grid: copy, export, print, fit.
+#include <fmt/format.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -13,6 +15,7 @@
 #include "screens/kit/grid_export.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/icons.h"
+#include "screens/kit/screen.h"
 #include "screens/kit/theme.h"
 
 namespace trv5 {
@@ -54,12 +57,24 @@ void GridView::exportXlsx() {
 }
 
 void GridView::printTable() {
-  m_grid.form().perform([this] { m_grid.form().shell().print(m_grid, {.title = m_grid.form().title()}); });
+  m_grid.form().perform(
+      [this] { m_grid.form().shell().print(m_grid, {.title = m_grid.form().title(), .header = printHeader()}); });
+}
+
+std::vector<std::string> GridView::printHeader() const {
+  for (const QWidget* widget = parentWidget(); widget != nullptr; widget = widget->parentWidget())
+    if (const auto* const screen = qobject_cast<const Screen*>(widget)) return screen->printHeader(m_grid);
+  return {};
 }
 
 FileBox GridView::exportBox(const char* title, const char* filter, const char* extension) const {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return {.title = title, .folder = folder.toStdString(), .filter = filter, .defaultExtension = extension};
+  // "Esiti: ambate" of today: "Esiti ambate 2026-08-22.csv".
+  const DateTime now = m_grid.form().shell().now();
+  const std::string name = fmt::format("{} {:04}-{:02}-{:02}.{}", accessibleName().remove(u':').toStdString(), now.year,
+                                       now.month, now.day, extension);
+  return {
+      .title = title, .folder = folder.toStdString(), .filter = filter, .defaultExtension = extension, .name = name};
 }
 
 void GridView::fitColumns() {

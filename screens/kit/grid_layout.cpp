@@ -42,6 +42,49 @@ int GridView::evenWidth() const {
   return width;
 }
 
+bool GridView::isAlike(int column) const {
+  return std::find(m_look.alike.begin(), m_look.alike.end(), column) != m_look.alike.end();
+}
+
+void GridView::noteUserWidth(int column, int width) {
+  m_userWidths[column] = width;
+  if (!isAlike(column)) {
+    Q_EMIT columnsLaidOut();
+    return;
+  }
+  for (const int other : m_look.alike) m_userWidths[other] = width;
+  layoutColumns();
+}
+
+// As wide as their texts, or as the user wants them; the room left over is shared, up to 1.6 times, and what is left
+// even so goes to one column.
+std::vector<int> GridView::ownWidths(const std::vector<int>& columns, int room) const {
+  std::vector<int> widths;
+  int alike = 0;
+  for (const int column : columns) {
+    const auto user = m_userWidths.find(column);
+    widths.push_back(user != m_userWidths.end() ? user->second : naturalWidth(column));
+    if (isAlike(column)) alike = std::max({alike, widths.back(), naturalWidth(column)});
+  }
+  int total = 0, free = 0;  // free: of columns whose width nobody set
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (isAlike(columns[i])) widths[i] = alike;
+    total += widths[i];
+    if (!m_userWidths.contains(columns[i])) free += widths[i];
+  }
+  if (total >= room || free == 0) return widths;
+  const double factor = std::min(1.6, 1.0 + double(room - total) / free);
+  int used = 0;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (!m_userWidths.contains(columns[i])) widths[i] = static_cast<int>(widths[i] * factor);
+    used += widths[i];
+  }
+  const auto rest = std::find(columns.begin(), columns.end(), m_look.restTo);
+  const auto last = rest == columns.end() ? columns.end() - 1 : rest;
+  widths[static_cast<std::size_t>(last - columns.begin())] += std::max(0, room - used);
+  return widths;
+}
+
 void GridView::layoutColumns() {
   std::vector<int> columns;
   for (int column = 0; column < m_model->columnCount(); ++column)
@@ -61,22 +104,7 @@ void GridView::layoutColumns() {
     const int least = evenWidth();
     for (int i = 0; i < count; ++i) widths.push_back(std::max(least, room * (i + 1) / count - room * i / count));
   } else {
-    int total = 0, free = 0;  // free: of columns whose width nobody set
-    for (const int column : columns) {
-      const auto user = m_userWidths.find(column);
-      widths.push_back(user != m_userWidths.end() ? user->second : naturalWidth(column));
-      total += widths.back();
-      if (user == m_userWidths.end()) free += widths.back();
-    }
-    if (total < room && free > 0) {
-      const double factor = std::min(1.6, 1.0 + double(room - total) / free);
-      int used = 0;
-      for (std::size_t i = 0; i < columns.size(); ++i) {
-        if (!m_userWidths.contains(columns[i])) widths[i] = static_cast<int>(widths[i] * factor);
-        used += widths[i];
-      }
-      if (used < room) widths.back() += room - used;
-    }
+    widths = ownWidths(columns, room);
   }
   for (std::size_t i = 0; i < columns.size(); ++i)
     if (columnWidth(columns[i]) != widths[i]) horizontalHeader()->resizeSection(columns[i], widths[i]);
@@ -88,10 +116,15 @@ int GridView::visibleRowCount() const {
   return m_model->rowCount() - static_cast<int>(m_hiddenRows.size());
 }
 
+// Of rows that stretch: a line of text, but for a map, which has none in its cells.
+int GridView::leastRow() const {
+  return std::max(m_look.minRow, m_look.minColumn > 0 ? 1 : QFontMetrics(m_cellFont).height());
+}
+
 void GridView::layoutRows() {
   const int rows = visibleRowCount();
   if (m_look.maxRow <= 0 || rows <= 0) return;
-  const int least = std::max(m_look.minRow, m_look.minColumn > 0 ? 1 : QFontMetrics(m_cellFont).height() + 2);
+  const int least = leastRow();
   const int room = std::clamp(viewport()->height(), rows * least, rows * std::max(least, m_look.maxRow));
   int i = 0;
   for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -109,17 +142,17 @@ QSize GridView::sizeHint() const {
     if (!isColumnHidden(column)) width += m_look.even && column >= m_look.evenFrom ? even : naturalWidth(column);
   if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) width += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
-  const int rows = m_look.pad || m_look.fixedHeight ? visibleRowCount() : 8;
-  const int row = std::max(m_look.minRow, verticalHeader()->defaultSectionSize());
+  const int rows = m_look.pad || m_look.fixedHeight || m_look.whole ? visibleRowCount() : 8;
+  const int row = m_look.whole ? std::max(leastRow(), m_look.maxRow)
+                               : std::max(m_look.minRow, verticalHeader()->defaultSectionSize());
   return {width, heading + rows * row + 2 * frameWidth()};
 }
 
 QSize GridView::minimumSizeHint() const {
   const QSize hint = sizeHint();
-  const bool whole = m_look.pad || m_look.fixedHeight;
+  const bool whole = m_look.pad || m_look.fixedHeight || m_look.whole;
   const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
-  const int row = m_look.minRow > 0 ? std::max(m_look.minRow, QFontMetrics(m_cellFont).height() + 2)
-                                    : verticalHeader()->defaultSectionSize();
+  const int row = m_look.minRow > 0 ? leastRow() : verticalHeader()->defaultSectionSize();
   return {whole ? hint.width() : std::min(hint.width(), 120),
           heading + (whole ? visibleRowCount() : 2) * row + 2 * frameWidth()};
 }

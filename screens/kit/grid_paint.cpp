@@ -19,27 +19,44 @@ void GridView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   const int rows = visibleRowCount();
   int bottom = rows > 0 ? verticalHeader()->length() - verticalHeader()->offset() : 0;
-  if (rows < m_look.freePlaces) {
-    const int height = verticalHeader()->defaultSectionSize();
-    for (int i = rows; i < m_look.freePlaces; ++i) {
-      bottom += height;
-      painter.fillRect(0, bottom - 1, viewport()->width(), 1, toColor(Theme::current().colours().line));
-    }
-  }
+  paintFreePlaces(painter, rows, bottom);
   if (rows == 0) paintEmptyText(painter, bottom);
   paintLowRows(painter);
   paintFrames(painter);
 }
 
+// Free places are faint lines; none crosses the message of an empty grid.
+void GridView::paintFreePlaces(QPainter& painter, int rows, int& bottom) {
+  const int height = verticalHeader()->defaultSectionSize();
+  const int whole = bottom + std::max(0, m_look.freePlaces - rows) * height;
+  QRect message;
+  if (rows == 0 && !m_grid.emptyText().empty())
+    message = QFontMetrics(m_cellFont)
+                  .boundingRect(emptyTextRoom(whole), Qt::AlignCenter | Qt::TextWordWrap, qs(m_grid.emptyText()))
+                  .adjusted(-8, -2, 8, 2);
+  const QColor line = toColor(Theme::current().colours().line);
+  for (bottom += height; bottom <= whole; bottom += height) {
+    const int y = bottom - 1, width = viewport()->width();
+    const bool crosses = y >= message.top() && y <= message.bottom();
+    painter.fillRect(0, y, crosses ? message.left() : width, 1, line);
+    if (crosses) painter.fillRect(message.right() + 1, y, width - message.right() - 1, 1, line);
+  }
+  bottom = whole;
+}
+
+// Below the free places where two lines find room, else over them.
+QRect GridView::emptyTextRoom(int top) const {
+  QRect room = viewport()->rect().adjusted(8, 0, -8, 0);
+  if (viewport()->height() - top >= 2 * QFontMetrics(m_cellFont).height() + 4) room.setTop(top);
+  return room;
+}
+
 void GridView::paintEmptyText(QPainter& painter, int top) {
   const QString text = qs(m_grid.emptyText());
   if (text.isEmpty()) return;
-  QRect room = viewport()->rect().adjusted(8, 0, -8, 0);
-  // Below the free places where two lines find room, else over them.
-  if (viewport()->height() - top >= 2 * QFontMetrics(m_cellFont).height() + 4) room.setTop(top);
   painter.setFont(m_cellFont);
   painter.setPen(toColor(Theme::current().colours().text2));
-  painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text);
+  painter.drawText(emptyTextRoom(top), Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
 // Rows too low for a text leave out the numbers of their head columns; every n-th is written over the rows below it.

@@ -40,12 +40,13 @@ class Sheet {
                         .rows = static_cast<int>(m_rows.size()),
                         .rowHeight = metrics.height() + 3,
                         .headingHeight = m_grid.headingRows() > 0 ? metrics.height() + 5 : 0,
-                        .titleHeight = m_setup.title.empty() ? 0 : metrics.height() + 8,
+                        .titleHeight = titleLines() == 0 ? 0 : titleLines() * metrics.height() + 8,
                         .pageWidth = width,
                         // The foot holds the number of the page.
                         .pageHeight = height - metrics.height() - 4};
     for (const int column : m_columns) request.columnWidths.push_back(widthOf(column));
     const Pages pages = paginate(request);
+    m_scale = pages.scale;
     for (std::size_t i = 0; i < pages.pages.size(); ++i) {
       if (i > 0) device.newPage();
       m_painter.save();
@@ -62,6 +63,24 @@ class Sheet {
   }
 
  private:
+  int titleLines() const { return (m_setup.title.empty() ? 0 : 1) + static_cast<int>(m_setup.header.size()); }
+
+  // The title and the lines below it, each cut short where the paper ends.
+  void paintTitle(double width) {
+    const QFontMetricsF metrics(m_font), bold(m_bold);
+    m_painter.setPen(toColor(kInk));
+    double y = 0;
+    const auto line = [&](const std::string& text, const QFont& font, const QFontMetricsF& sizes) {
+      m_painter.setFont(font);
+      m_painter.drawText(QRectF(0, y, width, metrics.height()), Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+                         sizes.elidedText(qs(text), Qt::ElideRight, width));
+      y += metrics.height();
+    };
+    if (!m_setup.title.empty()) line(m_setup.title, m_bold, bold);
+    for (std::size_t i = 0; i < m_setup.header.size(); ++i)
+      i == 0 ? line(m_setup.header[i], m_bold, bold) : line(m_setup.header[i], m_font, metrics);
+  }
+
   double widthOf(int column) const {
     const QFontMetricsF bold(m_bold);
     double width = bold.horizontalAdvance(QStringLiteral("88"));
@@ -74,10 +93,7 @@ class Sheet {
   void paint(const Page& page, const PageRequest& request) {
     double y = 0;
     if (request.titleHeight > 0) {
-      m_painter.setFont(m_bold);
-      m_painter.setPen(toColor(kInk));
-      m_painter.drawText(QRectF(0, 0, request.pageWidth * 2, request.titleHeight), Qt::AlignLeft | Qt::AlignTop,
-                         qs(m_setup.title));
+      paintTitle(request.pageWidth / m_scale);
       y += request.titleHeight;
     }
     if (request.headingHeight > 0) {
@@ -113,7 +129,7 @@ class Sheet {
   const Grid& m_grid;
   const PrintSetup& m_setup;
   QPainter& m_painter;
-  double m_unit;
+  double m_unit, m_scale = 1;
   QFont m_font, m_bold;
   std::vector<int> m_rows, m_columns;
 };

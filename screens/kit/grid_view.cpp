@@ -15,7 +15,7 @@ namespace trv5 {
 GridView::GridView(GridControl& grid, GridLook look, QWidget* parent)
     : QTableView(parent), m_grid(grid), m_look(std::move(look)), m_model(new GridModel(grid, this)) {
   setObjectName(qs(grid.name()));
-  setAccessibleName(qs(grid.name()));
+  setAccessibleName(m_look.name.isEmpty() ? qs(grid.name()) : m_look.name);
   setProperty("grid", true);
   setModel(m_model);
   setItemDelegate(new GridDelegate(*this));
@@ -32,9 +32,8 @@ GridView::GridView(GridControl& grid, GridLook look, QWidget* parent)
   verticalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setVisible(grid.headingRows() > 0);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-    if (m_layingOut) return;
-    m_userWidths[column] = width;
-    Q_EMIT columnsLaidOut();
+    // A column that is hidden or shown again is resized too.
+    if (!m_layingOut && !m_following && width > 0) noteUserWidth(column, width);
   });
   connect(m_model, &GridModel::synced, this, &GridView::followGrid);
   connect(&Theme::current(), &Theme::aboutToChange, this, [this] { m_keepEnd = atEnd(); });
@@ -57,7 +56,7 @@ GridView::~GridView() {
 
 void GridView::setLook(GridLook look) {
   m_look = std::move(look);
-  const bool keys = m_look.pad || m_look.fixedHeight;
+  const bool keys = m_look.pad || m_look.fixedHeight || m_look.whole;
   setSelectionMode(m_look.pad ? NoSelection : ExtendedSelection);
   setVerticalScrollBarPolicy(keys ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
   const bool fits = keys || (m_look.even && m_look.minColumn == 0);
@@ -77,7 +76,10 @@ void GridView::followTheme() {
   // A strip of keys stands among buttons and lists, as high as they are.
   const int row = m_look.pad && m_look.fixedHeight ? theme.control() - 2 * frameWidth() : theme.row();
   verticalHeader()->setDefaultSectionSize(std::max(row, QFontMetrics(m_cellFont).height() + 2));
-  if (m_look.fixedHeight) setFixedHeight(minimumSizeHint().height());
+  if (m_look.fixedHeight)
+    setFixedHeight(minimumSizeHint().height());
+  else if (m_look.whole)
+    setMaximumHeight(sizeHint().height());
   updateGeometry();
   layoutColumns();
   layoutRows();
@@ -116,6 +118,10 @@ void GridView::followGrid() {
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
   }
   m_following = false;
+  if (m_fitsAsked != m_grid.fitsAsked()) {
+    m_fitsAsked = m_grid.fitsAsked();
+    fitColumns();
+  }
   layoutColumns();
   layoutRows();
   if (m_look.atEnd && m_lastRows != rows) scrollToBottom();

@@ -13,18 +13,23 @@ namespace trv5 {
 
 /// How a grid looks: what the layout of a screen tells about it, beside what the grid itself carries.
 struct GridLook {
+  /// What the user calls the grid: read by screen readers, offered as the name of exported files, printed.
+  QString name = {};
   /// The widest text of each column ("88/88/8888"); for columns beyond the list, or an empty entry, the heading with
   /// its padding blanks.
   std::vector<QString> samples = {};
   int freePlaces = 0;                ///< free places drawn as faint lines below the last row
   std::vector<int> folded = {};      ///< columns out of sight as long as they are empty in all rows
   std::vector<int> heavyAfter = {};  ///< columns followed by a heavier line
+  std::vector<int> alike = {};       ///< columns of one width, whichever of them the user draws
+  int restTo = -1;                   ///< the column that takes the room left over; -1: the last in sight
   bool pad = false;                  ///< cells are keys: click, drag to paint, Space; no row frame, no selection
   bool even = false;                 ///< all columns equally wide, filling the view
   int evenFrom = 0;                  ///< the first of the even columns; those before it are as wide as their text
   bool tight = false;                ///< little padding in the cells
   int minColumn = 0;                 ///< least width of an even column in pixels; 0: the widest text
   int minRow = 0, maxRow = 0;        ///< rows stretch with the view between these heights; 0: the theme's row height
+  bool whole = false;                ///< with stretching rows: all of them are in sight, the view is no higher
   double points = 0;                 ///< size of the cells' font; 0: the base font
   bool fixedHeight = false;          ///< as high as its rows, no scroll bar
   bool atEnd = false;                ///< opens scrolled to its last row, and stays there when its size changes
@@ -98,14 +103,21 @@ class GridView : public QTableView {
   void layoutColumns();
   void layoutRows();
   int naturalWidth(int column) const;
+  bool isAlike(int column) const;
+  std::vector<int> ownWidths(const std::vector<int>& columns, int room) const;
+  void noteUserWidth(int column, int width);
+  int leastRow() const;
   int evenWidth() const;
   int visibleRowCount() const;
   bool atEnd() const;
+  QRect emptyTextRoom(int top) const;
+  void paintFreePlaces(QPainter& painter, int rows, int& bottom);
   void paintEmptyText(QPainter& painter, int top);
   void paintLowRows(QPainter& painter);
   void paintFrames(QPainter& painter);
   QRect rowRect(int modelRow) const;
   std::vector<std::pair<int, int>> chosenCells() const;
+  std::vector<std::string> printHeader() const;
   FileBox exportBox(const char* title, const char* filter, const char* extension) const;
 
   GridControl& m_grid;
@@ -115,6 +127,7 @@ class GridView : public QTableView {
   std::set<int> m_hiddenRows;       // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;  // of columns that the user or "Adatta colonne" set
   int m_lastRows = 0;               // of the model when the view last followed it
+  int m_fitsAsked = 0;              // by the grid, as far as the view has followed
   bool m_keepEnd = false;           // the theme changes while the last row is in sight
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click

@@ -18,4 +18,9 @@ void Screen::restore(const QSettings&) {}
 
 void Screen::store(QSettings&) const {}
 
+std::vector<std::string> Screen::printHeader(const GridControl& grid) const {
+  const auto* const view = findChild<GridView*>(qs(grid.name()));
+  return {view == nullptr ? form().title() : view->accessibleName().toStdString()};
+}
+
 }  // namespace trv5

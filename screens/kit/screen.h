@@ -21,6 +21,12 @@ class Screen : public QWidget {
   /// Splitters and the like, from one run to the next.
   virtual void restore(const QSettings& settings);
   virtual void store(QSettings& settings) const;
+  /// What stands above a printed grid of this screen: its name, and how its contents came to be.
+  virtual std::vector<std::string> printHeader(const GridControl& grid) const;
+
+ Q_SIGNALS:
+  /// sizeHint() tells another size, which a small screen takes unless the user has given it one.
+  void naturalSizeChanged();
 
  protected:
   Kit kit;

@@ -1,12 +1,18 @@
 #include "screens/kit/theme.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QFontMetrics>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QRadioButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QWidget>
 #include <algorithm>
 #include <cassert>
@@ -52,9 +58,29 @@ class UnitStyle : public QProxyStyle {
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
 
+  // One mark of the focus for each control: buttons, lists and tabs have theirs from the style sheet, check boxes and
+  // option buttons this one.
+  static bool drawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(widget);
+    const bool box =
+        qobject_cast<const QCheckBox*>(widget) != nullptr || qobject_cast<const QRadioButton*>(widget) != nullptr;
+    if (box) {
+      painter.save();
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setPen(QPen(toColor(Theme::current().colours().accent), 2));
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRoundedRect(
+          QRectF(option.rect).adjusted(-1, 0, 1, 0).intersected(QRectF(widget->rect())).adjusted(1, 1, -1, -1), 3, 3);
+      painter.restore();
+    }
+    return box || button != nullptr || qobject_cast<const QTabBar*>(widget) != nullptr ||
+           qobject_cast<const QComboBox*>(widget) != nullptr;
+  }
+
   // The outline of check boxes and option buttons, which Fusion takes from the ground, is the edge of all controls.
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+    if (element == PE_FrameFocusRect && drawFocus(*option, *painter, widget)) return;
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
       QStyleOptionButton edged;
       if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) edged = *button;
@@ -64,6 +90,32 @@ class UnitStyle : public QProxyStyle {
       return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+
+  // The thumb of a scroll bar stands out like the border of a control.
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || bar == nullptr) {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+      return;
+    }
+    QStyleOptionSlider groove = *bar;
+    groove.subControls &= ~SC_ScrollBarSlider;
+    QProxyStyle::drawComplexControl(control, &groove, painter, widget);
+    if (bar->maximum <= bar->minimum) return;
+    const ChromeColours& c = Theme::current().colours();
+    const bool held = (bar->activeSubControls & SC_ScrollBarSlider) != 0 && (bar->state & State_MouseOver) != 0;
+    const QRect thumb = proxy()->subControlRect(CC_ScrollBar, bar, SC_ScrollBarSlider, widget).adjusted(2, 2, -2, -2);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(toColor(!(bar->state & State_Enabled)        ? c.line
+                              : (bar->state & State_HasFocus) != 0 ? c.accent
+                              : held                               ? c.text2
+                                                                   : c.edge));
+    painter->drawRoundedRect(thumb, 3, 3);
+    painter->restore();
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -121,7 +173,7 @@ bool desktopIsDark() {
 
 }  // namespace
 
-Theme::Theme(QApplication& app) : m_app(app), m_dark(desktopIsDark()) {
+Theme::Theme(QApplication& app) : m_app(app), m_desktopDark(desktopIsDark()), m_dark(m_desktopDark) {
   assert(of(app) == nullptr);
   setParent(&app);
   initScreensResources();
@@ -153,6 +205,11 @@ void Theme::setDark(bool dark) {
   if (m_dark == dark) return;
   m_dark = dark;
   apply();
+}
+
+void Theme::setScheme(Scheme scheme) {
+  m_scheme = scheme;
+  setDark(scheme == Scheme::System ? m_desktopDark : scheme == Scheme::Dark);
 }
 
 void Theme::setWindowHeight(int height) {
@@ -240,6 +297,8 @@ QString Theme::styleSheet() const {
                                                {"@heading", c.heading},   {"@danger", c.danger}};
   // The inside of a control: its height without the border of 1 px on both sides.
   const std::pair<const char*, QString> sizes[] = {
+      {"@focusTabPad", QString::number(unit() / 2)},
+      {"@focusUnit", QString::number(unit() - 2)},
       {"@inner", QString::number(control() - 2)},
       {"@tallFocus", QString::number(control() + 4)},
       {"@tall", QString::number(control() + 6)},

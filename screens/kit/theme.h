@@ -80,6 +80,7 @@ class Theme : public QObject {
   Q_OBJECT
  public:
   enum class Density { Comfortable, Compact };
+  enum class Scheme { System, Light, Dark };
 
   explicit Theme(QApplication& app);
   ~Theme() override;
@@ -91,6 +92,9 @@ class Theme : public QObject {
   bool dark() const { return m_dark; }
   Density density() const { return m_density; }
   void setDark(bool dark);
+  /// Light or dark by the user's choice, or as the desktop was at the start.
+  void setScheme(Scheme scheme);
+  Scheme scheme() const { return m_scheme; }
   /// Windows under 900 pixels of height are laid out compactly.
   void setWindowHeight(int height);
   /// Size of the base font in points, 9.5 to 16; 0 for the size that the density tells.
@@ -128,7 +132,8 @@ class Theme : public QObject {
   void apply();
 
   QApplication& m_app;
-  bool m_dark = false;
+  bool m_desktopDark = false, m_dark = false;
+  Scheme m_scheme = Scheme::System;
   Density m_density = Density::Comfortable;
   double m_points = 0;
 };
