@@ -46,9 +46,12 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   auto* const lines = new QGridLayout;
   lines->addWidget(archive, 0, 0);
   lines->addWidget(caption, 0, 1);
-  lines->addWidget(kit.path("Lbl_Archivio"), 0, 2, 1, 2);
+  ElidedLabel* const path = kit.path("Lbl_Archivio");
+  path->setAccessibleName(QStringLiteral("Percorso archivio"));
+  lines->addWidget(path, 0, 2, 1, 2);
   lines->addWidget(note, 1, 1, 1, 2);
-  lines->addWidget(kit.button("Command4", {.icon = "folder", .mnemonic = 'A'}), 1, 3);
+  QPushButton* const choose = kit.button("Command4", {.icon = "folder", .mnemonic = 'A'});
+  lines->addWidget(choose, 1, 3);
   lines->setColumnStretch(2, 1);
   lines->setVerticalSpacing(2 * Theme::current().unit());
   lines->setHorizontalSpacing(12);
@@ -71,7 +74,9 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   layout->addSpacing(14);
   layout->addWidget(panel);
   layout->addStretch();
-  layout->addWidget(kit.progress("pb1"));
+  QProgressBar* const load = kit.progress("pb1");
+  load->setAccessibleName(QStringLiteral("Avanzamento"));
+  layout->addWidget(load);
   layout->addSpacing(14);
   layout->addLayout(buttons);
   setFixedHeight(400);
@@ -79,6 +84,8 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
 
   auto* const f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(f1, &QShortcut::activated, help, &QPushButton::click);
+  // After a choice Enter goes on.
+  connect(choose, &QPushButton::clicked, proceed, [proceed] { proceed->setFocus(Qt::OtherFocusReason); });
   proceed->setFocus();
 }
 

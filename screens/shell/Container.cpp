@@ -1,15 +1,20 @@
 #include "screens/shell/Container.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <QWindow>
+#include <QWindowStateChangeEvent>
 #include <algorithm>
 
+#include "screens/kit/grid_view.h"
 #include "screens/kit/icons.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/rail_button.h"
@@ -36,13 +41,17 @@ ContainerScreen::ContainerScreen(Container& form)
   setWindowTitle(qs(form.title()));
   setWindowIcon(programMark());
   setMinimumSize(1024, 600);
-  m_form.titleChanged = [this] { setWindowTitle(qs(m_form.title())); };
+  m_form.titleChanged = [this] {
+    setWindowTitle(qs(m_form.title()));
+    showTitle();
+  };
   setCentralWidget(m_centre);
   m_centre->installEventFilter(this);
   buildArea();
   buildRail();
   buildStatusBar();
   buildKeys();
+  connect(&m_draws->gridModel(), &GridModel::synced, this, &ContainerScreen::showTitle);
   connect(&Theme::current(), &Theme::aboutToChange, this, &ContainerScreen::noteFittedWindows);
   connect(&Theme::current(), &Theme::changed, this, [this] {
     m_area->setBackground(toColor(Theme::current().colours().voidArea));
@@ -102,8 +111,57 @@ void ContainerScreen::buildKeys() {
 }
 
 void ContainerScreen::toggleRail() {
-  (m_anyOpen ? m_wideOpen : m_wideEmpty) = !m_wide;
-  setWide(!m_wide);
+  if (m_wide) return foldRail();
+  (m_anyOpen ? m_wideOpen : m_wideEmpty) = true;
+  m_focusBefore = focusWidget();
+  setWide(true);
+  m_buttons.front().button->setFocus(Qt::ShortcutFocusReason);
+  if (m_anyOpen) qApp->installEventFilter(this);
+}
+
+// The focus goes back to where it was, unless it has left the panel already.
+void ContainerScreen::foldRail() {
+  if (!m_wide) return;
+  qApp->removeEventFilter(this);
+  (m_anyOpen ? m_wideOpen : m_wideEmpty) = false;
+  const QWidget* const focused = focusWidget();
+  const bool inside = focused != nullptr && m_rail->isAncestorOf(focused);
+  setWide(false);
+  if (inside && m_focusBefore != nullptr) m_focusBefore->setFocus(Qt::OtherFocusReason);
+  m_focusBefore = nullptr;
+}
+
+void ContainerScreen::setArchiveName(std::function<QString()> name) {
+  m_archiveName = std::move(name);
+  showTitle();
+}
+
+// Only the desktop's title tells more: the window's own stays the form's.
+void ContainerScreen::showTitle() {
+  const QString archive = m_archiveName ? m_archiveName() : QString();
+  if (QWindow* const window = windowHandle())
+    window->setTitle(archive.isEmpty() ? windowTitle() : windowTitle() + QStringLiteral(" · ") + archive);
+}
+
+// With its frame the window stays on the desktop, so that the status bar is in sight.
+void ContainerScreen::fitDesktop() {
+  if (isMaximized() || isFullScreen()) return;
+  const QSize most = screen()->availableSize() - (frameGeometry().size() - size());
+  if (height() > most.height() || width() > most.width()) {
+    m_toFit = false;
+    resize(size().boundedTo(most));
+  }
+  const QRect desktop = screen()->availableGeometry(), frame = frameGeometry();
+  if (!desktop.contains(frame))
+    move(std::clamp(frame.x(), desktop.x(), std::max(desktop.x(), desktop.right() + 1 - frame.width())),
+         std::clamp(frame.y(), desktop.y(), std::max(desktop.y(), desktop.bottom() + 1 - frame.height())));
+}
+
+void ContainerScreen::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (static_cast<QWindowStateChangeEvent*>(event)->oldState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+    m_toFit = true;
 }
 
 void ContainerScreen::setWide(bool wide) {
@@ -153,6 +211,7 @@ void ContainerScreen::setOpenScreens(std::vector<std::string> names) {
   m_empty->setVisible(!any);
   if (any == m_anyOpen) return;
   m_anyOpen = any;
+  qApp->removeEventFilter(this);
   setWide(any ? m_wideOpen : m_wideEmpty);
 }
 
@@ -176,6 +235,8 @@ void ContainerScreen::store(QSettings& settings) const {
 void ContainerScreen::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   Theme::edit().setWindowHeight(height());
+  // The desktop tells the size that it gives back after the change of the state.
+  if (m_toFit) QMetaObject::invokeMethod(this, &ContainerScreen::fitDesktop, Qt::QueuedConnection);
 }
 
 void ContainerScreen::showEvent(QShowEvent* event) {
@@ -184,6 +245,7 @@ void ContainerScreen::showEvent(QShowEvent* event) {
   m_shownOnce = true;
   layoutParts();
   m_draws->sync();
+  showTitle();
   setFocus();  // no ring before the first key; Tab then starts at the top of the panel
 }
 
@@ -195,6 +257,16 @@ void ContainerScreen::closeEvent(QCloseEvent* event) {
 
 bool ContainerScreen::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_centre && event->type() == QEvent::Resize) layoutParts();
+  if (event->type() == QEvent::MouseButtonPress) {
+    // Only while the panel was opened beside or over a screen. A press that nobody takes comes by again as its
+    // parents'.
+    const auto* const pressed = qobject_cast<const QWidget*>(watched);
+    const QPoint at = static_cast<const QMouseEvent*>(event)->globalPosition().toPoint();
+    const bool outside =
+        pressed != nullptr && pressed->window() == this && !m_rail->rect().contains(m_rail->mapFromGlobal(at));
+    if (m_wide && m_anyOpen && outside) foldRail();
+    return false;
+  }
   // A window without a frame has nothing to draw in another style; Qt would take it out of its full size and back, and
   // move the focus on.
   if (event->type() == QEvent::StyleChange)

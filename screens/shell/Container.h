@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <functional>
 #include <vector>
 
 #include "core/container.h"
@@ -37,6 +38,8 @@ class ContainerScreen : public QMainWindow {
   /// The open screens, the front one last.
   void setOpenScreens(std::vector<std::string> names);
   void showStatus(const QString& text);
+  /// Tells which archive is at work; the desktop's title of the window names it.
+  void setArchiveName(std::function<QString()> name);
 
   /// False when no place is remembered yet.
   bool restore(const QSettings& settings);
@@ -56,10 +59,12 @@ class ContainerScreen : public QMainWindow {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void buildRail();
+  QWidget* schemeButton();
   void buildStatusBlock(QBoxLayout& into);
   void buildArea();
   void buildStatusBar();
@@ -69,8 +74,12 @@ class ContainerScreen : public QMainWindow {
   void fitChip();
   void noteFittedWindows();
   void fitSmallWindows();
+  void refit(QMdiSubWindow& window);
   void keepInSight(int widthBefore);
   void setWide(bool wide);
+  void foldRail();
+  void showTitle();
+  void fitDesktop();
   QSize naturalSize(const QMdiSubWindow& window) const;
   QMdiSubWindow* windowOf(const QWidget& screen) const;
 
@@ -100,6 +109,9 @@ class ContainerScreen : public QMainWindow {
   // What the user chose last while no screen is open, and while one is.
   bool m_wideEmpty = true, m_wideOpen = false;
   bool m_shownOnce = false;
+  bool m_toFit = false;  // the window is no longer maximised
+  std::function<QString()> m_archiveName;
+  QPointer<QWidget> m_focusBefore;  // the panel was opened by a key or its button
 };
 
 }  // namespace trv5

@@ -1,7 +1,11 @@
 // What stands in the panel of the shell and in its status bar.
+#include <QActionGroup>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
 #include <QProgressBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -41,6 +45,11 @@ void ContainerScreen::buildRail() {
   m_rail->setObjectName(QStringLiteral("rail"));
   m_rail->setAttribute(Qt::WA_StyledBackground);
   m_rail->setProperty("rail", true);
+  auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), m_rail);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, this, [this] {
+    if (m_anyOpen) foldRail();
+  });
   auto* const layout = new QVBoxLayout(m_rail);
   layout->setContentsMargins(0, 4, 0, 4);
   layout->setSpacing(0);
@@ -61,7 +70,10 @@ void ContainerScreen::buildRail() {
     // Folded, the caption is the tooltip; a tooltip of the button's own says why it is disabled.
     if (button->toolTip().isEmpty()) button->setToolTip(button->text());
     // The click itself toggles the mark; what is open tells it.
-    connect(button, &QToolButton::clicked, this, [this] { setOpenScreens(m_open); });
+    connect(button, &QToolButton::clicked, this, [this] {
+      setOpenScreens(m_open);
+      if (m_anyOpen && m_area->x() < m_rail->width()) foldRail();  // it lies over the screen that was asked for
+    });
     m_buttons.push_back({button, row.screen});
     layout->addWidget(button);
   }
@@ -72,7 +84,8 @@ void ContainerScreen::buildRail() {
   wide->setContentsMargins(6, 6, 6, 6);
   buildStatusBlock(*wide);
   fitChip();
-  m_draws = m_kit.grid("FG5", {.samples = {QString(), QStringLiteral("8888"), QStringLiteral("88/88/8888"),
+  m_draws = m_kit.grid("FG5", {.name = QStringLiteral("Elenco estrazioni"),
+                               .samples = {QString(), QStringLiteral("8888"), QStringLiteral("88/88/8888"),
                                            QStringLiteral("888"), QStringLiteral("88")},
                                .folded = {0},
                                .atEnd = true});
@@ -82,6 +95,7 @@ void ContainerScreen::buildRail() {
   layout->addWidget(m_filler, 1);
 
   layout->addWidget(inset(separator(Qt::Horizontal)));
+  layout->addWidget(schemeButton());
   m_bottom = new QBoxLayout(QBoxLayout::LeftToRight);
   m_bottom->setSpacing(0);
   for (const RailRow& row : {RailRow{"Command33", "help", ""}, RailRow{"Command45", "power", ""}}) {
@@ -93,6 +107,33 @@ void ContainerScreen::buildRail() {
   }
   m_bottom->addStretch();
   layout->addLayout(m_bottom);
+}
+
+// Light, dark, or as the desktop.
+QWidget* ContainerScreen::schemeButton() {
+  auto* const button = new RailButton(QStringLiteral("contrast"));
+  button->setObjectName(QStringLiteral("aspetto"));
+  button->setPopupMode(QToolButton::InstantPopup);
+  auto* const menu = new QMenu(button);
+  auto* const choices = new QActionGroup(menu);
+  const std::pair<Theme::Scheme, const char*> schemes[] = {
+      {Theme::Scheme::System, "come il sistema"}, {Theme::Scheme::Light, "chiaro"}, {Theme::Scheme::Dark, "scuro"}};
+  for (const auto& [scheme, caption] : schemes) {
+    QAction* const action = menu->addAction(QString::fromUtf8(caption));
+    action->setCheckable(true);
+    choices->addAction(action);
+    connect(action, &QAction::triggered, button, [scheme = scheme] { Theme::edit().setScheme(scheme); });
+    withTheme(*button, [action, button, scheme = scheme] {
+      if (Theme::current().scheme() != scheme) return;
+      action->setChecked(true);
+      button->setText(QStringLiteral("Aspetto: ") + action->text());
+      button->setToolTip(button->text());
+      button->setAccessibleName(button->text());
+    });
+  }
+  button->setMenu(menu);
+  m_otherButtons.push_back(button);
+  return button;
 }
 
 void ContainerScreen::buildStatusBlock(QBoxLayout& into) {
@@ -158,6 +199,7 @@ void ContainerScreen::buildStatusBar() {
   statusBar()->addWidget(m_status, 1);
   QProgressBar* const bar = m_kit.progress("Pb1");
   bar->setFixedWidth(180);
+  bar->setAccessibleName(QStringLiteral("Avanzamento"));
   QLabel* const verify = m_kit.label("Lbl_Verifica", Type::Small);
   QWidget* const right =
       holding(row({verify, Piece::space(), m_lastDate, Piece::space(), m_lastIndex, Piece::space(), bar}));

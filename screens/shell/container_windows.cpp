@@ -3,6 +3,7 @@
 #include <QMdiSubWindow>
 #include <QShortcut>
 #include <algorithm>
+#include <cstdlib>
 
 #include "screens/kit/icons.h"
 #include "screens/kit/theme.h"
@@ -39,7 +40,7 @@ void ContainerScreen::keepInSight(int widthBefore) {
 QSize ContainerScreen::naturalSize(const QMdiSubWindow& window) const {
   const QSize told = window.property(kNaturalSize).toSize();
   const QSize natural =
-      told.isValid() ? told * std::max(1.0, Theme::current().basePoints() / kUsualPoints) : window.widget()->sizeHint();
+      told.isValid() ? told * std::max(1.0, Theme::current().basePoints() / kUsualPoints) : window.sizeHint();
   return natural.boundedTo(m_area->size());
 }
 
@@ -90,6 +91,18 @@ void ContainerScreen::place(QWidget& screen, const ScreenEntry& entry) {
   connect(escape, &QShortcut::activated, window, &QMdiSubWindow::close);
   window->show();
   window->setProperty(kFittedSize, window->size());
+  if (auto* const own = qobject_cast<Screen*>(&screen))
+    connect(own, &Screen::naturalSizeChanged, window, [this, window] { refit(*window); });
+}
+
+// Where it stood in the middle it stays there.
+void ContainerScreen::refit(QMdiSubWindow& window) {
+  if (window.size() != window.property(kFittedSize).toSize()) return;
+  const bool centred = std::abs(2 * window.x() + window.width() - m_area->width()) <= 2;
+  window.setProperty(kToFit, true);
+  fitSmallWindows();
+  if (centred)
+    window.move((m_area->width() - window.width()) / 2, std::max(0, (m_area->height() - window.height()) / 3));
 }
 
 void ContainerScreen::bringToFront(QWidget& screen) {

@@ -5,18 +5,28 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QMdiSubWindow>
+#include <QMimeData>
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
 
 #include "core/errors.h"
+#include "core/grid_text.h"
 #include "help/help_pages.h"
+#include "screens/kit/lazy_page.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/Container.h"
 #include "screens/shell/help_viewer.h"
 
 namespace trv5 {
+
+namespace {
+
+// As the settings name them, in the order of Theme::Scheme.
+const QStringList kSchemes = {QStringLiteral("sistema"), QStringLiteral("chiaro"), QStringLiteral("scuro")};
+
+}  // namespace
 
 QtShell::Open::~Open() {
   // Before the form, which it shows; with the frame that it stands in.
@@ -40,6 +50,9 @@ void QtShell::attach(Program& program) {
 void QtShell::useSettings(const std::filesystem::path& file) {
   m_settings = std::make_unique<QSettings>(qs(file.string()), QSettings::IniFormat);
   Theme::edit().setBasePoints(m_settings->value(QStringLiteral("carattere"), 0).toDouble());
+  const int scheme =
+      static_cast<int>(kSchemes.indexOf(m_settings->value(QStringLiteral("aspetto"), kSchemes.front()).toString()));
+  Theme::edit().setScheme(static_cast<Theme::Scheme>(std::max(0, scheme)));
 }
 
 const ScreenEntry* QtShell::entryOf(std::string_view name) const {
@@ -74,12 +87,18 @@ QWidget* QtShell::widget(std::string_view screen, std::string_view control) cons
   const QWidget* const top = widget(screen);
   if (top == nullptr) return nullptr;
   const QString name = QString::fromUtf8(control.data(), static_cast<qsizetype>(control.size()));
-  for (QWidget* const found : top->findChildren<QWidget*>(name)) {
-    const QWidget* owner = found->parentWidget();
-    while (owner != top && qobject_cast<const Screen*>(owner) == nullptr) owner = owner->parentWidget();
-    if (owner == top) return found;
-  }
-  return nullptr;
+  const auto search = [top, &name]() -> QWidget* {
+    for (QWidget* const found : top->findChildren<QWidget*>(name)) {
+      const QWidget* owner = found->parentWidget();
+      while (owner != top && qobject_cast<const Screen*>(owner) == nullptr) owner = owner->parentWidget();
+      if (owner == top) return found;
+    }
+    return nullptr;
+  };
+  QWidget* found = search();
+  // It may stand on a page that nobody has seen yet.
+  while (found == nullptr && makeOnePage(*top)) found = search();
+  return found;
 }
 
 ContainerScreen* QtShell::shellWindow() const {
@@ -123,10 +142,14 @@ QtShell::Open& QtShell::open(const ScreenEntry& entry) {
 void QtShell::place(Open& opened) {
   QWidget& widget = *opened.widget;
   if (opened.entry->place == Place::Window) {
-    widget.resize(opened.entry->size.boundedTo(widget.screen()->availableSize()));
+    // With its frame a window is larger: one that would fill the desktop leaves some of it free.
+    const QSize desktop = widget.screen()->availableSize(), natural = opened.entry->size;
+    const bool fits = natural.width() < desktop.width() && natural.height() < desktop.height();
+    widget.resize(fits ? natural : natural.boundedTo(desktop * 9 / 10));
     bool maximised = false;
     if (auto* const window = qobject_cast<ContainerScreen*>(&widget)) {
       maximised = m_settings != nullptr && !window->restore(*m_settings);
+      window->setArchiveName([this] { return qs(m_program->loadedArchive.stem().string()); });
       connect(window, &ContainerScreen::helpWanted, this, &QtShell::helpOfFront);
       connect(window, &ContainerScreen::nextScreenWanted, this, &QtShell::showNext);
       connect(window, &ContainerScreen::closedByUser, this, [this](const QString& name) { close(name.toStdString()); });
@@ -180,6 +203,7 @@ void QtShell::close(std::string_view screen) {
       if (auto* const own = qobject_cast<Screen*>(widget)) own->store(*m_settings);
       if (auto* const window = qobject_cast<ContainerScreen*>(widget)) window->store(*m_settings);
       m_settings->setValue(QStringLiteral("carattere"), Theme::current().chosenPoints());
+      m_settings->setValue(QStringLiteral("aspetto"), kSchemes[static_cast<int>(Theme::current().scheme())]);
     }
     if (ContainerScreen* const window = shellWindow()) window->takeAway(*widget);
     widget->hide();
@@ -223,13 +247,14 @@ HelpViewer& QtShell::helpWindow() {
 }
 
 void QtShell::help(int context) {
-  helpWindow().open(helpPage(context));
+  helpWindow().open(helpPage(context), m_open.empty() ? nullptr : m_open.back()->widget.data());
 }
 
 void QtShell::helpOfFront() {
   if (m_open.empty()) return;
   const Form& front = *m_open.back()->form;
-  helpWindow().open(front.helpContext() > 0 ? helpPage(front.helpContext()) : helpPageOfScreen(qs(front.name())));
+  helpWindow().open(front.helpContext() > 0 ? helpPage(front.helpContext()) : helpPageOfScreen(qs(front.name())),
+                    m_open.back()->widget);
 }
 
 std::string QtShell::clipboard() {
@@ -237,7 +262,11 @@ std::string QtShell::clipboard() {
 }
 
 void QtShell::setClipboard(const std::string& text) {
-  QGuiApplication::clipboard()->setText(qs(text));
+  // Beside the text, exactly as it was given, a table goes as one: text editors then paste it with its cells.
+  auto* const copied = new QMimeData;
+  copied->setText(qs(text));
+  if (text.find('\t') != std::string::npos) copied->setHtml(qs(tabbedHtml(text)));
+  QGuiApplication::clipboard()->setMimeData(copied);
 }
 
 void QtShell::openAddress(const std::string& url) {
@@ -245,7 +274,22 @@ void QtShell::openAddress(const std::string& url) {
 }
 
 void QtShell::progress(int value, int maximum) {
-  if (m_program != nullptr && m_program->container != nullptr) m_program->container->Pb1.set(value, maximum);
+  if (m_program == nullptr || m_program->container == nullptr) return;
+  m_program->container->Pb1.set(value, maximum);
+  if (m_emptyAsked || !(Form::operationRunning() || value >= maximum)) return;
+  m_emptyAsked = true;
+  QTimer::singleShot(0, this, &QtShell::emptyProgress);
+}
+
+// The bar of a work that is over, or was given up, is empty.
+void QtShell::emptyProgress() {
+  if (Form::operationRunning()) {
+    QTimer::singleShot(50, this, &QtShell::emptyProgress);
+    return;
+  }
+  m_emptyAsked = false;
+  if (m_program != nullptr && m_program->container != nullptr)
+    m_program->container->Pb1.set(0, m_program->container->Pb1.maximum());
 }
 
 void QtShell::status(const std::string& text) {

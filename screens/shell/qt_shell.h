@@ -67,6 +67,8 @@ class QtShell : public QObject, public Shell {
  protected:
   /// The window that a box belongs to, so that it can't open behind it.
   QWidget* front() const;
+  /// The setup with the header that the screen of that grid tells, where the operation told none.
+  PrintSetup withHeader(const Grid& grid, PrintSetup setup) const;
 
  private:
   struct Open {
@@ -84,6 +86,7 @@ class QtShell : public QObject, public Shell {
   void toFront(std::string_view screen);
   void tellShellWindow();
   HelpViewer& helpWindow();
+  void emptyProgress();
 
   std::vector<ScreenEntry> m_screens;
   Program* m_program = nullptr;
@@ -91,7 +94,7 @@ class QtShell : public QObject, public Shell {
   std::vector<std::unique_ptr<Open>> m_closed;  // waiting for the end of the operation that closed them
   std::unique_ptr<QSettings> m_settings;
   std::unique_ptr<HelpViewer> m_help;
-  bool m_purgeAsked = false, m_opening = false;
+  bool m_purgeAsked = false, m_opening = false, m_emptyAsked = false;
 };
 
 }  // namespace trv5

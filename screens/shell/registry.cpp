@@ -61,7 +61,7 @@ std::vector<ScreenEntry> allScreens() {
       atRight(loaded<MiniList>(
           entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {660, 490}))),
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
-      entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed, {1000, 520}),
+      entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
       loaded<VerificaArchivio>(
           entry<VerificaArchivio, VerificaArchivioScreen>("VerificaArchivio", Place::Framed, {1200, 420})),

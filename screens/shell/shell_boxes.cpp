@@ -11,6 +11,7 @@
 #include <QSpacerItem>
 
 #include "screens/kit/grid_print.h"
+#include "screens/kit/screen.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/qt_shell.h"
 
@@ -59,6 +60,7 @@ void prepare(QFileDialog& dialog, const FileBox& box) {
   dialog.setWindowTitle(qs(box.title));
   dialog.setDirectory(qs(box.folder.string()));
   dialog.setNameFilters(filterOf(box).split(QStringLiteral(";;")));
+  if (!box.name.empty()) dialog.selectFile(qs(box.name));
   if (!box.defaultExtension.empty()) dialog.setDefaultSuffix(qs(box.defaultExtension));
 }
 
@@ -115,7 +117,20 @@ std::optional<std::filesystem::path> QtShell::chooseSave(const FileBox& box) {
   return chosen(dialog);
 }
 
-void QtShell::print(const Grid& grid, const PrintSetup& setup) {
+PrintSetup QtShell::withHeader(const Grid& grid, PrintSetup setup) const {
+  if (!setup.header.empty()) return setup;
+  for (const std::unique_ptr<Open>& opened : m_open) {
+    const auto* const screen = qobject_cast<const Screen*>(opened->widget.data());
+    if (screen == nullptr) continue;
+    for (const Control* const control : opened->form->controls())
+      if (const auto* const own = dynamic_cast<const GridControl*>(control); own != nullptr && &own->grid() == &grid)
+        setup.header = screen->printHeader(*own);
+  }
+  return setup;
+}
+
+void QtShell::print(const Grid& grid, const PrintSetup& asked) {
+  const PrintSetup setup = withHeader(grid, asked);
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageLayout(printLayout(setup));
   printer.setDocName(setup.title.empty() ? QStringLiteral("TRV5") : qs(setup.title));
