@@ -1,11 +1,14 @@
 #include "screens/workbench/Sommativi1.h"
 
-#include <QMdiSubWindow>
 #include <QScrollArea>
 #include <QSettings>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
+#include "cases/print_header.h"
+#include "screens/kit/lazy_page.h"
 #include "screens/kit/page_pair.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/cases.h"
@@ -43,7 +46,8 @@ Sommativi1Screen::Sommativi1Screen(Workbench& form)
     : Screen(form),
       m_w(form),
       m_bar(new WorkbenchReferenceBar(form)),
-      m_pages(new PagePair(form.SSTab1, {new WorkbenchSelections(form), new WorkbenchCases(form)}, true)),
+      m_selections(new WorkbenchSelections(form)),
+      m_pages(new PagePair(form.SSTab1, {m_selections, new WorkbenchCases(form)}, true)),
       m_search(new WorkbenchSearch(form)),
       m_forecasts(new WorkbenchForecasts(form)),
       m_statistics(new WorkbenchStatistics(form)) {
@@ -73,11 +77,7 @@ Sommativi1Screen::Sommativi1Screen(Workbench& form)
   parts->addWidget(m_rows, 1);
   connect(m_forecasts, &WorkbenchForecasts::tabInFront, m_search, &WorkbenchSearch::followTab);
   // Once all parts have the new font: what they need decides what the handles can do.
-  const auto again = [this] {
-    m_laidOut.clear();
-    layOut();
-  };
-  connect(&Theme::current(), &Theme::changed, this, again, Qt::QueuedConnection);
+  connect(&Theme::current(), &Theme::changed, this, &Sommativi1Screen::layOutLater);
   withTheme(*this, [parts] {
     const int unit = Theme::current().unit();
     parts->setContentsMargins(unit, 0, unit, unit);
@@ -85,6 +85,24 @@ Sommativi1Screen::Sommativi1Screen(Workbench& form)
   setFocusPolicy(Qt::ClickFocus);  // no ring before the first key; Tab then starts at the top
   buildKeys();
   orderTabs();
+  tellKeys();
+  for (auto* const page : findChildren<LazyPage*>())
+    connect(page, &LazyPage::made, this, [this] {
+      orderTabs();
+      tellKeys();
+      layOutLater();
+    });
+}
+
+// What isn't in sight is made when the first picture stands, a page at a time, so that no key waits for all of them.
+void Sommativi1Screen::paintEvent(QPaintEvent* event) {
+  Screen::paintEvent(event);
+  if (std::exchange(m_painted, true)) return;
+  QTimer::singleShot(0, this, &Sommativi1Screen::makeNextPage);
+}
+
+void Sommativi1Screen::makeNextPage() {
+  if (makeOnePage(*this)) QTimer::singleShot(0, this, &Sommativi1Screen::makeNextPage);
 }
 
 QString Sommativi1Screen::memoryKey(const char* splitter) const {
@@ -101,7 +119,7 @@ void Sommativi1Screen::restore(const QSettings& settings) {
     for (const QVariant& size : settings.value(name).toList()) sizes.append(size.toInt());
     if (sizes.size() == 2) m_moved[name] = sizes;
   }
-  m_laidOut.clear();
+  m_laidOutFor.clear();
   layOut();
 }
 
@@ -120,40 +138,72 @@ QList<int> Sommativi1Screen::defaultSizes(const char* splitter) const {
   const QSize whole = size().expandedTo(m_scroll->widget()->minimumSizeHint());
   const int inside = whole.width() - 3 * Theme::current().unit();
   if (name == QLatin1String("righe")) {
-    const int high = whole.height() - m_bar->height() - 2 * Theme::current().unit();
-    // A low window of many columns has its search in more lines.
-    if (wide && high < scaled(900)) return pair(high * 63 / 100, high);
-    return pair(wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292)), high);
+    const int high = whole.height() - m_bar->height() - 2 * Theme::current().unit() - m_rows->handleWidth();
+    const int usual = wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292));
+    const int most = high - m_bottom->minimumSizeHint().height();
+    return pair(std::min(std::max(usual, leastTop(wide)), most), high);
   }
   if (name == QLatin1String("sopra")) {
     // The candidates want the width of their buttons in one line.
     const int left = wide ? std::min(scaled(560 + 570 + 8), inside - scaled(600))
                           : std::max(scaled(540), std::min(scaled(592), inside * 45 / 100));
-    return pair(left, inside);
+    return pair(std::max(left, m_pages->minimumSizeHint().width()), inside);
   }
-  if (name == QLatin1String("pagine")) return pair(scaled(560), m_pages->width());
+  if (name == QLatin1String("pagine"))
+    return pair(std::max(scaled(560), m_pages->splitter()->widget(0)->minimumSizeHint().width()), m_pages->width());
   // The forecasts want the width of their tabs in one line.
-  const int right = wide ? std::min(scaled(560), inside - scaled(1085)) : std::min(scaled(196), inside * 15 / 100);
+  const int right = wide ? std::min(scaled(560), inside - scaled(1160)) : std::min(scaled(196), inside * 15 / 100);
   return pair(inside - right, inside);
 }
 
-void Sommativi1Screen::layOut() {
+// What the upper row is too low without: all of Selezioni behind its tab; beside the pages, where the search stands in
+// more lines, some candidates.
+int Sommativi1Screen::leastTop(bool wide) const {
+  constexpr int kCandidates = 8;
+  if (wide) return m_search->heightFor(kCandidates, defaultSizes("sopra").last());
+  const QWidget& page = *m_selections;
+  const int tabs = m_pages->minimumSizeHint().height() - page.parentWidget()->minimumSizeHint().height();
+  return m_selections->wholeHeight() + tabs + Theme::current().unit();  // the pane of the tabs has a unit of its own
+}
+
+bool Sommativi1Screen::layOut() {
   const bool wide = width() >= scaled(kWide);
   m_bar->setWide(wide);
   m_pages->setSideBySide(wide);
   m_forecasts->setWide(wide);
   m_statistics->setWide(wide, wide && width() >= scaled(kRoomy));
-  const QString now = memoryKey("");
-  const bool other = now != m_laidOut;
-  m_laidOut = now;
+  // Handles are set from the outside in, each splitter at its own new size: pages that have just changed places would
+  // otherwise share out the size of before.
+  m_scroll->widget()->layout()->activate();
+  const QSize top = m_top->minimumSizeHint(), bottom = m_bottom->minimumSizeHint();
+  const QList<int> now = {
+      width(),         height(),         wide,           static_cast<int>(Theme::current().density()),
+      top.width(),     top.height(),     bottom.width(), bottom.height(),
+      m_rows->width(), m_rows->height(), leastTop(wide)};
+  if (std::exchange(m_laidOutFor, now) == now) return false;
   for (const Handle& handle : m_handles) {
+    if (QLayout* const around = handle.splitter->parentWidget()->layout()) around->activate();
     const auto moved = m_moved.find(memoryKey(handle.name));
-    // What the user set follows the window as Qt shares it out; it is put back when its layout comes back.
-    if (moved == m_moved.end())
-      handle.splitter->setSizes(defaultSizes(handle.name));
-    else if (other)
-      handle.splitter->setSizes(moved.value());
+    handle.splitter->setSizes(moved == m_moved.end() ? defaultSizes(handle.name) : moved.value());
   }
+  return true;
+}
+
+// Again until the parts have settled: how much they need depends on their widths.
+void Sommativi1Screen::layOutLater() {
+  if (m_layOutAsked) return;
+  m_layOutAsked = true;
+  const auto later = [this] {
+    m_layOutAsked = false;
+    if (layOut()) layOutLater();
+  };
+  QMetaObject::invokeMethod(this, later, Qt::QueuedConnection);
+}
+
+std::vector<std::string> Sommativi1Screen::printHeader(const GridControl& grid) const {
+  std::vector<std::string> lines = Screen::printHeader(grid);
+  for (std::string& line : methodHeader(m_w, m_w.shell().now())) lines.push_back(std::move(line));
+  return lines;
 }
 
 QSize Sommativi1Screen::minimumSizeHint() const {
@@ -162,9 +212,15 @@ QSize Sommativi1Screen::minimumSizeHint() const {
 
 void Sommativi1Screen::resizeEvent(QResizeEvent* event) {
   Screen::resizeEvent(event);
-  // On its way to the full size of the shell's area a window has others.
-  const auto* const frame = qobject_cast<const QMdiSubWindow*>(parentWidget());
-  if (frame == nullptr || frame->isMaximized()) layOut();
+  if (!isVisible()) return;  // on its way into the shell's area
+  layOut();
+  layOutLater();
+}
+
+void Sommativi1Screen::showEvent(QShowEvent* event) {
+  Screen::showEvent(event);
+  layOut();
+  layOutLater();
 }
 
 }  // namespace trv5

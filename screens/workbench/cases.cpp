@@ -15,7 +15,7 @@ class CaseTotals : public QWidget {
  public:
   CaseTotals(Kit& kit, GridView& cases)
       : m_cases(cases),
-        m_totals(*kit.grid("FgSSS", {.fixedHeight = true})),
+        m_totals(*kit.grid("FgSSS", {.name = QStringLiteral("Totali dei casi"), .fixedHeight = true})),
         m_span(Kit::text(QStringLiteral("Estrazioni considerate"), Type::Hint)),
         m_spanValue(kit.label("Label5", Type::Title)),
         m_hits(Kit::text(QStringLiteral("N° esiti"), Type::Small)),
@@ -29,10 +29,15 @@ class CaseTotals : public QWidget {
     connect(&cases, &GridView::columnsLaidOut, this, [this] { place(); });
     withTheme(*this, [this] {
       setFixedHeight(m_totals.sizeHint().height());
-      const int span = QFontMetrics(Theme::current().title()).horizontalAdvance(QStringLiteral("88888"));
-      setMinimumWidth(m_span->sizeHint().width() + span + m_covered->sizeHint().width() + m_totals.sizeHint().width() +
-                      4 * Theme::current().unit());
+      updateGeometry();
     });
+  }
+
+  QSize minimumSizeHint() const override {
+    const int span = QFontMetrics(Theme::current().title()).horizontalAdvance(QStringLiteral("88888"));
+    return {
+        m_span->sizeHint().width() + span + m_covered->sizeHint().width() + totalsWidth() + 4 * Theme::current().unit(),
+        m_totals.sizeHint().height()};
   }
 
  protected:
@@ -42,6 +47,14 @@ class CaseTotals : public QWidget {
   }
 
  private:
+  // The least that four figures in each of its columns take.
+  int totalsWidth() const {
+    int columns = 0;
+    for (int column = 0; column < m_totals.grid().columns(); ++column) columns += !m_totals.grid().columnHidden(column);
+    const int figures = QFontMetrics(Theme::current().base()).horizontalAdvance(QStringLiteral("8888"));
+    return columns * (figures + 4) + 2 * m_totals.frameWidth();
+  }
+
   void place() {
     const int first = case_column::kHits;
     int left = width(), right = 0;
@@ -80,7 +93,7 @@ std::vector<QString> caseSamples() {
     samples.insert(samples.end(), {draw, date, QStringLiteral("MI")});
     samples.insert(samples.end(), kPositions, number);
   }
-  samples.insert(samples.end(), 6, number);
+  samples.insert(samples.end(), 6, draw);  // their totals have up to four figures
   return samples;
 }
 
@@ -91,7 +104,14 @@ WorkbenchCases::WorkbenchCases(Workbench& w, QWidget* parent) : QWidget(parent) 
   Kit kit(w);
   std::vector<int> secondElement;
   for (int column = kDraw2; column < kHits; ++column) secondElement.push_back(column);
-  GridView* const cases = kit.grid("FgEv", {.samples = caseSamples(), .folded = secondElement, .tight = true});
+  std::vector<int> hits;
+  for (int column = kHits; column <= kLunghetta; ++column) hits.push_back(column);
+  GridView* const cases = kit.grid("FgEv", {.name = QStringLiteral("Elenco dei casi"),
+                                            .samples = caseSamples(),
+                                            .folded = secondElement,
+                                            .alike = hits,
+                                            .restTo = kDate,
+                                            .tight = true});
   setLayout(column(
       {flow({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true})},
             {kit.button("Command27", {.kind = ButtonKind::Quiet, .icon = "broom"})}),

@@ -22,7 +22,8 @@ class WorkbenchForecasts : public Panel {
   void tabInFront(int tab);
 
  private:
-  PagePair* m_grouping = nullptr;
+  PagePair* m_grouping = nullptr;  // once its page is made
+  bool m_wide = false;
 };
 
 }  // namespace trv5

@@ -1,7 +1,10 @@
 // The keys of the workbench, and the way of the Tab key through it.
+#include <QHelpEvent>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolTip>
+#include <utility>
 
 #include "screens/workbench/Sommativi1.h"
 #include "screens/workbench/search.h"
@@ -13,7 +16,7 @@ namespace {
 constexpr const char* kRoad[] = {
     // Reference bar.
     "Command42_0", "hs1", "Command42_1", "Command42_2", "Command42_3", "Label1_0", "FgRG", "Label17", "Label18",
-    "Label1_1", "ComboColpi", "Command87", "Command70",
+    "ComboColpi", "Command87", "Command70",
     // Selezioni.
     "SSTab1", "ComboFiltro", "ComboPar", "Command14", "ComboR1", "ComboNC", "ComboQNu", "Ch_ultima", "LblPN_1",
     "LblPN_2", "LblPN_3", "LblPN_4", "LblPN_5", "FgNu", "Command24", "Command25", "Command26", "ComboValF", "Command8",
@@ -42,6 +45,40 @@ constexpr const char* kRoad[] = {
     "Command89", "FgRit", "Txt_Denominazione", "Command4", "Cmd_Elenco", "Command54", "FgPir1",
     // Statistiche.
     "Fg_Stat", "Fg_Graf"};
+
+// Buttons and the keys that press them, for their tooltips.
+struct Key {
+  const char* control;
+  const char* sequence;
+};
+constexpr Key kKeys[] = {
+    {"Command42_1", "F3"},   {"Command42_3", "Alt+End"}, {"Command70", "F1"},     {"Command87", "Ctrl+F5"},
+    {"Command44", "F5"},     {"Command22", "Shift+F7"},  {"Cmd_LaSorte_1", "F7"}, {"Cmd_LaSorte_2", "F7"},
+    {"Cmd_LaSorte_3", "F7"}, {"Cmd_LaSorte_6", "F7"},    {"Command29", "F8"},     {"Command34", "F8"},
+    {"Command48", "F8"},     {"Command51", "F8"},        {"Command86", "F9"},     {"Command4", "Ctrl+S"},
+    {"Command20", "F6"},     {"Command28", "F6"},        {"Command46", "F6"},     {"Command56", "F6"}};
+
+// Adds the key to whatever tooltip its widget has at the moment.
+class KeyTip : public QObject {
+ public:
+  KeyTip(QWidget& widget, QString key) : QObject(&widget), m_key(std::move(key)) {
+    setObjectName(QStringLiteral("keyTip"));
+    widget.setAccessibleDescription(m_key);
+    widget.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) return false;
+    auto* const widget = static_cast<QWidget*>(watched);
+    const QString text = widget->toolTip().isEmpty() ? widget->accessibleName() : widget->toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), QStringLiteral("%1 (%2)").arg(text, m_key),
+                       widget);
+    return true;
+  }
+
+ private:
+  QString m_key;
+};
 
 // The verification of the tab whose searches are in front.
 const char* verifyAll(const Workbench& w) {
@@ -87,6 +124,14 @@ void Sommativi1Screen::buildKeys() {
   key(Qt::ALT | Qt::Key_Left, [this] { m_w.hs1.set(m_w.hs1.value() - 1); });
   key(Qt::ALT | Qt::Key_Right, [this] { m_w.hs1.set(m_w.hs1.value() + 1); });
   key(Qt::ALT | Qt::Key_Home, [this] { m_w.hs1.set(m_w.hs1.minimum()); });
+}
+
+void Sommativi1Screen::tellKeys() {
+  for (const Key& key : kKeys) {
+    auto* const widget = findChild<QWidget*>(QLatin1String(key.control));
+    if (widget == nullptr || widget->findChild<QObject*>(QStringLiteral("keyTip")) != nullptr) continue;
+    new KeyTip(*widget, QKeySequence(QLatin1String(key.sequence)).toString(QKeySequence::NativeText));
+  }
 }
 
 void Sommativi1Screen::orderTabs() {

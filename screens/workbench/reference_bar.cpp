@@ -10,12 +10,14 @@ WorkbenchReferenceBar::WorkbenchReferenceBar(Workbench& w, QWidget* parent) : QW
     return kit.button(name, {.kind = ButtonKind::Quiet, .icon = icon, .iconOnly = true});
   };
   QScrollBar* const draw = kit.scroll("hs1");
-  GridView* const wheels = kit.grid("FgRG", {.pad = true, .even = true, .fixedHeight = true});
+  draw->setAccessibleName(QStringLiteral("Estrazione di riferimento"));
+  GridView* const wheels =
+      kit.grid("FgRG", {.name = QStringLiteral("Ruote di gioco"), .pad = true, .even = true, .fixedHeight = true});
   wheels->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   m_swatches = {kit.swatch("Label17", Verde), kit.swatch("Label18", kWhite)};
   QComboBox* const colpi = kit.combo("ComboColpi", QStringLiteral("88"));
-  ClickLabel* const colpiCaption = kit.clickLabel("Label1_1", Type::Hint, 'p');
-  colpiCaption->setBuddy(colpi);
+  QLabel* const colpiCaption = Kit::text(QStringLiteral("Col&pi"), Type::Hint, colpi);
+  colpi->setAccessibleName(QStringLiteral("Colpi"));
 
   const auto part = [] {
     QFrame* const line = separator(Qt::Vertical);

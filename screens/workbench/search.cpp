@@ -1,12 +1,16 @@
 #include "screens/workbench/search.h"
 
 #include <QAbstractButton>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QResizeEvent>
 #include <QStackedWidget>
 
+#include "screens/kit/bindings.h"
 #include "screens/kit/icons.h"
+#include "screens/kit/ink.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/formula_samples.h"
@@ -16,6 +20,38 @@ namespace {
 
 // The pages of searches, by the tab of the forecasts that they belong to.
 constexpr std::pair<int, const char*> kSections[] = {{0, "Ambate"}, {1, "Ambi"}, {2, "Terni"}, {4, "Lunghetta"}};
+
+// A button of the sorti keeps its colour when it is disabled, with the border and the faint text of what is.
+class SorteButton : public QPushButton {
+ public:
+  explicit SorteButton(const Button& control) : m_control(control) {
+    setAutoDefault(false);
+    dress(*this, {.strong = true});
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    if (isEnabled()) return QPushButton::paintEvent(event);
+    const ChromeColours& c = Theme::current().colours();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(toColor(c.line));
+    const QColor back = toColor(m_control.back().value_or(c.panel));
+    painter.setBrush(back);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    // On its colour, which both themes share, and with a third of an ink's strength.
+    QColor ink = toColor(kInk);
+    ink.setAlphaF(0.34F);
+    painter.setPen(ink);
+    QFont font = Theme::current().title();
+    painter.setFont(font);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  }
+
+ private:
+  const Button& m_control;
+};
 
 }  // namespace
 
@@ -29,8 +65,9 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
   const auto captioned = [](const char* caption, QWidget* widget) {
     return Kit::captioned(QString::fromUtf8(caption), widget);
   };
-  body()->addLayout(flow({m_title}, {kit.lines("List1", 2, QStringLiteral("88:88:88")),
-                                     kit.button("Command3", {.kind = ButtonKind::Quiet}),
+  QListWidget* const times = kit.lines("List1", 2, QStringLiteral("88:88:88"));
+  times->setAccessibleName(QStringLiteral("Inizio e fine della ricerca"));
+  body()->addLayout(flow({m_title}, {times, kit.button("Command3", {.kind = ButtonKind::Quiet}),
                                      kit.button("Cmd_Colora_fgf", {.kind = ButtonKind::Quiet}),
                                      captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888")))}));
   body()->addLayout(flow({captioned("&Alteraz", kit.combo("Combo1R_1N", QStringLiteral("D x U"))),
@@ -51,13 +88,18 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
          kit.joined({names[5]}));
   body()->addWidget(m_pages);
 
-  m_candidates = kit.grid("FgF", {.samples = formulaSamples(), .tight = true});
+  m_candidates =
+      kit.grid("FgF", {.name = QStringLiteral("Formule trovate"), .samples = formulaSamples(), .tight = true});
   body()->addWidget(m_candidates, 1);
 
   std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),
                                Kit::text(QStringLiteral("Aggiunge previsione"), Type::Hint)};
-  for (const char* const name : {"Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6"})
-    adding.emplace_back(kit.button(name, {.strong = true}));
+  for (const char* const name : {"Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6"}) {
+    auto& control = w.button(name);
+    auto* const button = new SorteButton(control);
+    bind(*button, control);
+    adding.emplace_back(button);
+  }
   body()->addLayout(flow({holding(row(adding)), kit.check("ChVerifica", 'V')}, {kit.button("Command22")}));
 }
 
@@ -104,6 +146,12 @@ void WorkbenchSearch::chooseFirst() {
   if (!m_w.FgF.hasData()) return;
   m_candidates->clickCell(m_w.FgF.headingRows(), m_w.FgF.currentColumn());
   m_candidates->setFocus(Qt::OtherFocusReason);
+}
+
+int WorkbenchSearch::heightFor(int candidates, int width) const {
+  const int row = m_candidates->verticalHeader()->defaultSectionSize();
+  const int grid = m_candidates->horizontalHeader()->height() + candidates * row + 2 * m_candidates->frameWidth();
+  return layout()->minimumHeightForWidth(width) - m_candidates->minimumSizeHint().height() + grid;
 }
 
 QSize WorkbenchSearch::minimumSizeHint() const {

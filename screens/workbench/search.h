@@ -24,6 +24,8 @@ class WorkbenchSearch : public Panel {
   /// Puts the focus on the search buttons: arrows walk them, Enter searches and goes to the candidates.
   void focusSearches();
 
+  /// The height at which so many candidates are in sight, at that width.
+  int heightFor(int candidates, int width) const;
   /// As high as its rows are where they wrap at the width of the moment.
   QSize minimumSizeHint() const override;
 

@@ -14,20 +14,21 @@ QWidget* captioned(const char* caption, QWidget* widget) {
 QLayout* numbersColumn(Kit& kit) {
   std::vector<Piece> positions = {Kit::text(QStringLiteral("Posizioni"), Type::Hint), Piece::gap()};
   for (int p = 1; p <= kPositions; ++p) positions.emplace_back(kit.key("LblPN_" + std::to_string(p)));
-  GridView* const pad = kit.grid("FgNu", {.samples = std::vector<QString>(10, QStringLiteral("88")),
+  GridView* const pad = kit.grid("FgNu", {.name = QStringLiteral("Numeri"),
+                                          .samples = std::vector<QString>(10, QStringLiteral("88")),
                                           .pad = true,
                                           .even = true,
                                           .tight = true,
                                           .minRow = 22,
                                           .maxRow = 34});
-  pad->setAccessibleName(QStringLiteral("Numeri"));
   withTheme(*pad, [pad] { pad->setMaximumHeight(pad->grid().rows() * pad->look().maxRow + 2 * pad->frameWidth()); });
   return column({row(positions), {pad, 1000}, Piece::gap()});
 }
 
 QLayout* wheelsColumn(Kit& kit) {
-  GridView* const wheels = kit.grid("FgRR", {.pad = true, .even = true, .tight = true, .fixedHeight = true});
-  wheels->setAccessibleName(QStringLiteral("Ruote rilevazione"));
+  GridView* const wheels = kit.grid(
+      "FgRR",
+      {.name = QStringLiteral("Ruote rilevazione"), .pad = true, .even = true, .tight = true, .fixedHeight = true});
   QLabel* const note = Kit::text(
       QStringLiteral("Per utilizzare rilevazioni su 2 ruote si deve spuntare la check box Analisi su ruote qui sotto"),
       Type::Small);
@@ -51,7 +52,9 @@ QLayout* wheelsColumn(Kit& kit) {
                                         captioned("QN R2", kit.combo("ComboQNR2", QStringLiteral("8")))}),
                                    Piece::gap(), row({kit.check("ChDDS"), Piece::gap(), kit.check("Ch_ISO")})});
   // Nine rows of numbers beside eight of these: they move together before anything has to scroll.
-  withTheme(*wheels, [rows] { rows->setSpacing(Theme::current().unit() / 3); });
+  withTheme(*wheels, [rows] {
+    rows->setSpacing(Theme::current().density() == Theme::Density::Compact ? 0 : Theme::current().unit() / 3);
+  });
   return rows;
 }
 
@@ -67,10 +70,19 @@ WorkbenchSelections::WorkbenchSelections(Workbench& w, QWidget* parent) : QWidge
             captioned("&N° casi", kit.combo("ComboNC", QStringLiteral("88"))),
             captioned("&QN", kit.combo("ComboQNu", QStringLiteral("8"))), Piece::gap(), kit.check("Ch_ultima", 'F')}),
        {row({{numbersColumn(kit), 1}, Piece::space(), {wheelsColumn(kit), 1}}), 1}});
-  setLayout(column({{new ScrollColumn(holding(rows)), 1},
+  m_rows = holding(rows);
+  setLayout(column({{new ScrollColumn(m_rows), 1},
                     row({kit.button("Command41", {.kind = ButtonKind::Quiet, .icon = "file"}), Piece::gap(),
                          kit.button("Command44", {.kind = ButtonKind::Primary, .icon = "play"})})}));
   setFocusProxy(kind);
+}
+
+int WorkbenchSelections::wholeHeight() const {
+  const int rows =
+      std::max(m_rows->minimumSizeHint().height(), m_rows->layout()->minimumHeightForWidth(m_rows->width()));
+  const QMargins margins = layout()->contentsMargins();
+  return rows + Theme::current().unit() + layout()->itemAt(1)->minimumSize().height() + margins.top() +
+         margins.bottom();
 }
 
 }  // namespace trv5

@@ -12,6 +12,11 @@ class WorkbenchSelections : public QWidget {
   Q_OBJECT
  public:
   explicit WorkbenchSelections(Workbench& w, QWidget* parent = nullptr);
+  /// The height at which nothing has to scroll.
+  int wholeHeight() const;
+
+ private:
+  QWidget* m_rows;
 };
 
 }  // namespace trv5

@@ -73,6 +73,9 @@ QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
   const auto quiet = [&kit](const char* name, const char* icon) {
     return kit.button(name, {.kind = ButtonKind::Quiet, .icon = icon});
   };
+  const auto named = [&names](const char* what) {
+    return QStringLiteral("%1: %2").arg(QLatin1String(what), QLatin1String(names.sorte));
+  };
   std::vector<QWidget*> verify = {kit.button(names.verifyAll, {.kind = ButtonKind::Primary})};
   if (names.verifyRow != nullptr) verify.push_back(kit.button(names.verifyRow));
   verify.push_back(kit.button(names.beyondLimit));
@@ -84,13 +87,14 @@ QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
   std::vector<Piece> left;
   if (above != nullptr) left.emplace_back(above);
   GridView* const formulas =
-      kit.grid(names.formulas, {.samples = formulaSamples(), .freePlaces = names.places, .tight = true});
+      kit.grid(names.formulas,
+               {.name = named("Formule"), .samples = formulaSamples(), .freePlaces = names.places, .tight = true});
   left.insert(left.end(), {{formulas, 1}, flow(verify), edit});
 
   std::vector<QWidget*> utilities = {quiet(names.print, "print"), quiet(names.copy, "copy"),
                                      quiet(names.clean, "broom")};
   if (names.extended != nullptr) utilities.push_back(kit.button(names.extended, {.icon = "columns"}));
-  GridView* const hits = kit.grid(names.hits, {.samples = hitSamples()});
+  GridView* const hits = kit.grid(names.hits, {.name = named("Esiti"), .samples = hitSamples()});
   return leftAndRight(column(left), column({{hits, 1}, flow(utilities)}), hits);
 }
 

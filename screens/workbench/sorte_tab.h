@@ -10,6 +10,7 @@ namespace trv5 {
 
 /// What the four tabs Ambate, Ambi, Terni and Lunghetta are made of, by the names of their controls.
 struct SorteTab {
+  const char* sorte;  ///< as the tab is called, for the names of its grids
   const char* formulas;
   int places;  ///< formulas that the table takes
   const char* hits;

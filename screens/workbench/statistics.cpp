@@ -34,6 +34,23 @@ constexpr Meaning kLegend[] = {{Verde, "scelto, caso coperto, numero uscito"},
                                {Ciano, "numero scelto, caso in corso"},
                                {0xC0C0FF, "altro esito dello stesso caso"}};
 
+// Shows where there is room for all of it.
+class Legend : public QWidget {
+ public:
+  explicit Legend(QWidget* lines) : m_lines(lines) { lines->setParent(this); }
+  QSize sizeHint() const override { return m_lines->sizeHint(); }
+  QSize minimumSizeHint() const override { return {m_lines->minimumSizeHint().width(), 0}; }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override {
+    m_lines->setGeometry(rect());
+    m_lines->setVisible(height() >= m_lines->sizeHint().height());
+  }
+
+ private:
+  QWidget* m_lines;
+};
+
 QWidget* legend() {
   std::vector<Piece> lines;
   for (const Meaning& entry : kLegend) {
@@ -48,7 +65,7 @@ QWidget* legend() {
   lines.push_back(Piece::gap());
   QBoxLayout* const all = column(lines);
   all->setSpacing(0);
-  return holding(all);
+  return new Legend(holding(all));
 }
 
 }  // namespace
@@ -62,10 +79,8 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
       m_title(Kit::text(QStringLiteral("Statistiche"), Type::Title)),
       m_grid(new QGridLayout) {
   Kit kit(w);
-  m_counts = kit.grid("Fg_Stat");
-  m_bars = kit.grid("Fg_Graf");
-  m_counts->setAccessibleName(m_title->text());
-  m_bars->setAccessibleName(m_title->text());
+  m_counts = kit.grid("Fg_Stat", {.name = QStringLiteral("Statistiche")});
+  m_bars = kit.grid("Fg_Graf", {.name = QStringLiteral("Grafico delle statistiche")});
   m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
   for (QWidget* const part : {static_cast<QWidget*>(m_title), m_legend}) part->setParent(this);
   body()->addLayout(m_grid, 1);
@@ -93,29 +108,32 @@ void WorkbenchStatistics::arrange() {
   const int line = QFontMetrics(Theme::current().base()).height();
   const auto meaning = [](int row, int) { return QString::fromUtf8(kMeaning[static_cast<std::size_t>(row)]); };
 
-  GridLook counts = {.samples = {QStringLiteral("InG"), QStringLiteral("8888")}, .toolTip = meaning};
-  GridLook bars = {.fixedHeight = true};
+  GridLook counts = {.name = QStringLiteral("Statistiche"),
+                     .samples = {QStringLiteral("InG"), QStringLiteral("8888")},
+                     .toolTip = meaning};
+  GridLook bars = {.name = QStringLiteral("Grafico delle statistiche")};
   if (!m_longBars) bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("8888.88")};
+  // In a low window the rows draw together down to a line of text, so that the rest of the road has its rows too.
+  counts.minRow = bars.minRow = line;
+  counts.maxRow = bars.maxRow = Theme::current().row();
+  counts.whole = bars.whole = true;
   if (m_wide) {
-    counts.minRow = line + 2;
     counts.maxRow = line * 7 / 4;
-    bars.minRow = bars.maxRow = line * 54 / 19;
+    bars.minRow = line * 3 / 2;
+    bars.maxRow = line * 54 / 19;
     m_grid->addWidget(m_title, 0, 0, 1, 2);
     m_grid->addWidget(m_countsHolder, 1, 0, 2, 1);
-    m_grid->addWidget(m_bars, 1, 1, Qt::AlignTop);
+    m_grid->addWidget(m_bars, 1, 1);
     m_grid->addWidget(m_legend, 2, 1);
   } else {
-    counts.fixedHeight = true;
     bars.tight = true;
     m_grid->addWidget(m_countsHolder, 0, 0);
-    m_grid->addWidget(m_bars, 1, 0, Qt::AlignBottom);
+    m_grid->addWidget(m_bars, 1, 0);
   }
-  m_grid->setRowStretch(1, m_wide ? 0 : 1);
+  m_grid->setRowStretch(0, m_wide ? 0 : m_counts->grid().rows());
+  m_grid->setRowStretch(1, m_bars->grid().rows());
   m_grid->setRowStretch(2, m_wide ? 1 : 0);
   m_grid->setColumnStretch(1, m_wide ? 1 : 0);
-  m_counts->setMinimumHeight(0);
-  m_counts->setMaximumHeight(m_wide ? m_counts->grid().rows() * counts.maxRow + 2 * m_counts->frameWidth()
-                                    : QWIDGETSIZE_MAX);
   m_counts->setMaximumWidth(m_wide ? 18 * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8')
                                    : QWIDGETSIZE_MAX);
   m_counts->setLook(counts);

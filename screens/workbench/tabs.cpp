@@ -52,7 +52,7 @@ QWidget* summaryTab(Workbench& w) {
             Piece::space(), kit.check("Ch1esito"), Piece::gap(),
             kit.button("Command86", {.kind = ButtonKind::Primary, .icon = "play"}), quiet(kit, "Command96", "print"),
             quiet(kit, "Command98", "copy"), quiet(kit, "Command97", "broom")}),
-       {kit.grid("FgZZ", {.samples = samples}), 1}});
+       {kit.grid("FgZZ", {.name = QStringLiteral("Riepilogo"), .samples = samples}), 1}});
 }
 
 QWidget* liveForecastsTab(Workbench& w) {
@@ -64,7 +64,8 @@ QWidget* liveForecastsTab(Workbench& w) {
   return pageOf(
       {flow({kit.button("Command35", {.kind = ButtonKind::Primary}), kit.button("Command102"), group(filters),
              quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
-       {kit.grid("FgIC", {.samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), kNumber}, 10, kNumber,
+       {kit.grid("FgIC", {.name = QStringLiteral("Previsioni in corso"),
+                          .samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), kNumber}, 10, kNumber,
                                               {QStringLiteral("88/88/8888"), QStringLiteral("MI MI MI MI MI")})}),
         1}});
 }
@@ -73,9 +74,11 @@ QWidget* numbersInPlayTab(Workbench& w) {
   Kit kit(w);
   const QString numbers = QStringLiteral("88-88-88");
   GridView* const cases = kit.grid(
-      "Fg15", {.samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
+      "Fg15", {.name = QStringLiteral("Numeri in gioco"),
+               .samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
   GridView* const forecasts =
-      kit.grid("FgGioco", {.samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("888"))});
+      kit.grid("FgGioco", {.name = QStringLiteral("Previsioni del caso"),
+                           .samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("888"))});
   return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}),
                       forecasts);
 }
@@ -91,10 +94,12 @@ QWidget* groupingTab(Workbench& w, PagePair*& sheets) {
                                         kNumber},
                                        10, kNumber);
   list = repeated(list, kWheels, QStringLiteral("M"));
-  GridView* const found = kit.grid("FgRagg", {.samples = list, .tight = true});
+  GridView* const found =
+      kit.grid("FgRagg", {.name = QStringLiteral("Raggruppamento"), .samples = list, .tight = true});
   QWidget* const first =
       pageOf({{found, 1}, flow({quiet(kit, "Command109", "print"), quiet(kit, "Command110", "copy")})});
-  GridView* const counts = kit.grid("FgConv", {.samples = repeated({kNumber}, kWheels, kNumber)});
+  GridView* const counts =
+      kit.grid("FgConv", {.name = QStringLiteral("Convergenze"), .samples = repeated({kNumber}, kWheels, kNumber)});
   QWidget* const second =
       pageOf({row({kit.joined({"Command114", "Command115", "Command116"}, false), Piece::gap()}), {counts, 1}});
   first->setFocusProxy(found);
@@ -119,18 +124,21 @@ QWidget* informationTab(Workbench& w) {
                     kit.button("Command111"), kit.button("Command112"), kit.button("Command113")}),
               flow({kit.button("Command104", {.icon = "filter"}), quiet(kit, "Command89", "copy")}), Piece::gap()});
   GridView* const values =
-      kit.grid("FgRit", {.samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")})});
+      kit.grid("FgRit", {.name = QStringLiteral("Ritardi e presenze"),
+                         .samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")})});
   return holding(row({narrow(new ScrollColumn(commands), 42), Piece::space(), {values, 1}}));
 }
 
 QWidget* configurationsTab(Workbench& w) {
   Kit kit(w);
   QLineEdit* const name = kit.edit("Txt_Denominazione", {}, true);
+  name->setAccessibleName(QStringLiteral("Denominazione"));
   QWidget* const save = pageOf(
       {Kit::text(QStringLiteral("&Denominazione (Max 100 caratteri)"), Type::Hint, name), name,
        row({kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"}), Piece::gap()}), Piece::gap()});
   GridView* const saved =
-      kit.grid("FgPir1", {.samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});
+      kit.grid("FgPir1", {.name = QStringLiteral("Configurazioni salvate"),
+                          .samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});
   return holding(row({narrow(save, 47),
                       Piece::space(),
                       {column({row({kit.button("Cmd_Elenco"), Piece::gap(),

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "form_world.h"
+#include "screens/kit/lazy_page.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/Sommativi1.h"
 #include "support/workbench_world.h"
@@ -21,6 +22,7 @@ struct WorkbenchScreen {
         }()),
         screen(std::make_unique<Sommativi1Screen>(world.w)) {
     resize(window);
+    makePages(*screen);
     screen->show();
     screen->activateWindow();
     settle();

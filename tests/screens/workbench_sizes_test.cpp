@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QSplitter>
+
+#include "screens/kit/grid_view.h"
+#include "workbench_shell.h"
+
+namespace trv5 {
+namespace {
+
+// The sizes of all splitters, for one picture to be laid beside another.
+std::vector<QList<int>> splitterSizes(const Sommativi1Screen& bench) {
+  std::vector<QList<int>> all;
+  for (const auto* const splitter : bench.findChildren<QSplitter*>())
+    if (splitter->isVisible()) all.push_back(splitter->sizes());
+  return all;
+}
+
+// As before, but for the pixels that rounding shares out.
+void expectSame(const std::vector<QList<int>>& now, const std::vector<QList<int>>& before, const std::string& when) {
+  ASSERT_EQ(now.size(), before.size()) << when;
+  for (std::size_t i = 0; i < now.size(); ++i)
+    for (int part = 0; part < now[i].size(); ++part) EXPECT_NEAR(now[i][part], before[i][part], 2) << when;
+}
+
+int rowsInSight(const GridView& view) {
+  return view.viewport()->height() / view.verticalHeader()->defaultSectionSize();
+}
+
+TEST(WorkbenchSizesInTheShell, AWindowThatIsNotMaximisedIsLaidOutForItsWidth) {
+  WorkbenchShell world({1750, 1000});
+  EXPECT_TRUE(world.find("Command44").isVisible());
+  EXPECT_TRUE(world.find("FgEv").isVisible());
+}
+
+TEST(WorkbenchSizesInTheShell, TheWholePadAndBothBoxesAreInSightInALowWindow) {
+  for (const QSize window : {QSize(1366, 728), QSize(1280, 720)}) {
+    WorkbenchShell world(window);
+    for (const char* const name : {"FgNu", "ChDDS", "Ch_ISO", "Command44"})
+      EXPECT_TRUE(world.wholeInSight(name)) << name << " at " << window.width() << " x " << window.height();
+  }
+}
+
+TEST(WorkbenchSizesInTheShell, TheCasesHaveTheirWidthOnAWideScreen) {
+  WorkbenchShell world({1920, 1080});
+  const QWidget* page = &world.find("FgEv");
+  while (qobject_cast<const QSplitter*>(page->parentWidget()) == nullptr) page = page->parentWidget();
+  EXPECT_NEAR(page->width(), 570, 12);
+}
+
+TEST(WorkbenchSizesInTheShell, EightCandidatesAreInSightAtSixteenHundred) {
+  for (const QSize window : {QSize(1600, 900), QSize(1600, 860)}) {
+    WorkbenchShell world(window);
+    EXPECT_GE(rowsInSight(*qobject_cast<GridView*>(&world.find("FgF"))), 8) << window.height();
+  }
+}
+
+TEST(WorkbenchSizesInTheShell, TheWayToASizeDoesNotMatter) {
+  for (const QSize window : {QSize(1280, 720), QSize(1366, 768), QSize(1600, 900), QSize(1920, 1080)}) {
+    WorkbenchShell direct(window);
+    const auto wanted = splitterSizes(direct.bench());
+    for (const QSize other : {QSize(1920, 1080), QSize(1280, 720), QSize(1600, 900)}) {
+      direct.resize(other);
+      direct.resize(window);
+      expectSame(splitterSizes(direct.bench()), wanted,
+                 std::to_string(window.width()) + " after " + std::to_string(other.width()));
+    }
+  }
+}
+
+TEST(WorkbenchSizesInTheShell, ALargerFontAndBackRestoresTheLayout) {
+  for (const QSize window : {QSize(1366, 768), QSize(1600, 900), QSize(1920, 1080)}) {
+    WorkbenchShell world(window);
+    const auto before = splitterSizes(world.bench());
+    for (const double step : {0.5, -0.5, 3.0, -3.0}) {
+      Theme::edit().stepBase(step);
+      for (int i = 0; i < 3; ++i) settle();
+    }
+    expectSame(splitterSizes(world.bench()), before, std::to_string(window.width()));
+  }
+}
+
+// PROBE
+
+}  // namespace
+}  // namespace trv5
