@@ -22,6 +22,8 @@ class TwoColumns : public QWidget {
   QSize sizeHint() const override { return minimumSizeHint(); }
   QSize minimumSizeHint() const override {
     const QSize left = m_left->minimumSizeHint(), right = m_right->minimumSizeHint();
+    // Of a page that isn't in sight the widths are those of another time.
+    if (!isVisible()) return {left.width() + gap() + right.width(), std::max(left.height(), right.height())};
     const auto height = [](const QWidget& column, int least) {
       return std::max(least, column.layout()->minimumHeightForWidth(column.width()));  // with its wrapped rows
     };
