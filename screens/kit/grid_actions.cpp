@@ -52,7 +52,7 @@ void GridView::exportCsv() {
 void GridView::exportXlsx() {
   m_grid.form().perform([this] {
     const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta XLSX", "*.xlsx", "xlsx"));
-    if (file) writeXlsx(*file, m_grid);
+    if (file) writeXlsx(*file, m_grid, accessibleName().toStdString());
   });
 }
 
