@@ -276,14 +276,14 @@ void QtShell::openAddress(const std::string& url) {
 void QtShell::progress(int value, int maximum) {
   if (m_program == nullptr || m_program->container == nullptr) return;
   m_program->container->Pb1.set(value, maximum);
-  if (m_emptyAsked || !(Form::operationRunning() || value >= maximum)) return;
+  if (m_emptyAsked || !(operations().running() || value >= maximum)) return;
   m_emptyAsked = true;
   QTimer::singleShot(0, this, &QtShell::emptyProgress);
 }
 
 // The bar of a work that is over, or was given up, is empty.
 void QtShell::emptyProgress() {
-  if (Form::operationRunning()) {
+  if (operations().running()) {
     QTimer::singleShot(50, this, &QtShell::emptyProgress);
     return;
   }
