@@ -169,8 +169,10 @@ void ContainerScreen::buildStatusBlock(QBoxLayout& into) {
   panel->body()->addLayout(block);
   into.addWidget(panel);
   // There only while the archive has something to be looked at.
-  QPushButton* const verify = m_kit.button("Cmd_Verifica", {.kind = ButtonKind::Quiet, .icon = "archive"});
+  auto* const verify = new QPushButton;
+  dress(*verify, {.kind = ButtonKind::Quiet, .icon = "archive"});
   auto& verifyControl = m_form.get<Button>("Cmd_Verifica");
+  connect(verify, &QPushButton::clicked, this, [&verifyControl] { verifyControl.press(); });
   follow(*verify, verifyControl, [verify, &verifyControl] {
     verify->setText(qs(verifyControl.caption()));
     verify->setVisible(!verifyControl.caption().empty());

@@ -47,11 +47,11 @@ constexpr const char* kRoad[] = {
     "Fg_Stat", "Fg_Graf"};
 
 // Buttons and the keys that press them, for their tooltips.
-struct Key {
+struct KeyOfControl {
   const char* control;
   const char* sequence;
 };
-constexpr Key kKeys[] = {
+constexpr KeyOfControl kKeys[] = {
     {"Command42_1", "F3"},   {"Command42_3", "Alt+End"}, {"Command70", "F1"},     {"Command87", "Ctrl+F5"},
     {"Command44", "F5"},     {"Command22", "Shift+F7"},  {"Cmd_LaSorte_1", "F7"}, {"Cmd_LaSorte_2", "F7"},
     {"Cmd_LaSorte_3", "F7"}, {"Cmd_LaSorte_6", "F7"},    {"Command29", "F8"},     {"Command34", "F8"},
@@ -127,7 +127,7 @@ void Sommativi1Screen::buildKeys() {
 }
 
 void Sommativi1Screen::tellKeys() {
-  for (const Key& key : kKeys) {
+  for (const KeyOfControl& key : kKeys) {
     auto* const widget = findChild<QWidget*>(QLatin1String(key.control));
     if (widget == nullptr || widget->findChild<QObject*>(QStringLiteral("keyTip")) != nullptr) continue;
     new KeyTip(*widget, QKeySequence(QLatin1String(key.sequence)).toString(QKeySequence::NativeText));
