@@ -22,10 +22,13 @@ void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
   std::size_t at = kDrawBytes;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     m_dates[i + 1] = rows[i].date;
-    for (const std::string& wheel : rows[i].wheels)
+    for (const std::string& wheel : rows[i].wheels) {
+      // Places count characters: well-formed texts, 14 bytes, have one byte each.
+      const std::string counted = wheel.size() > 14 ? asciiText(wheel) : std::string();
+      const std::string_view text = counted.empty() ? std::string_view(wheel) : std::string_view(counted);
       for (std::size_t position = 0; position < kPositions; ++position, ++at)
-        if (wheel.size() > position * 3)
-          m_shown[at] = static_cast<std::uint8_t>(numberOf(std::string_view(wheel).substr(position * 3, 2)));
+        if (text.size() > position * 3) m_shown[at] = static_cast<std::uint8_t>(numberOf(text.substr(position * 3, 2)));
+    }
   }
   m_numbers = m_shown;
   for (std::uint8_t& n : m_numbers)

@@ -143,5 +143,15 @@ TEST(Archive, GivesBackEveryNumberOfRandomRows) {
   }
 }
 
+TEST(Archive, CountsThePlacesOfAWheelInCharactersNotInBytes) {
+  Archive archive;
+  DrawRow row;
+  row.date = "07/01/1939";
+  row.wheels[0] = "05·71·13·90·02";
+  archive.loadNumbers({row});
+  const std::array<int, 5> wanted = {5, 71, 13, 90, 2};
+  for (int p = 1; p <= 5; ++p) EXPECT_EQ(archive.NumeriEstratti(1, 0, p), wanted[static_cast<std::size_t>(p - 1)]) << p;
+}
+
 }  // namespace
 }  // namespace trv5
