@@ -46,9 +46,10 @@ void Form::perform(const std::function<void()>& operation) {
     const OperationDepth::Step step(depth);
     operation();
   } catch (const UserError& error) {
-    m_shell.message({.text = error.what(), .title = error.title(), .icon = Icon::Critical});
+    m_shell.message({.text = error.what(), .title = error.title(), .icon = Icon::Critical, .reason = error.details()});
   } catch (const std::exception& error) {
-    m_shell.message({.text = std::string("Errore imprevisto: ") + error.what(), .icon = Icon::Critical});
+    m_shell.message(
+        {.text = "Errore imprevisto: l'operazione non è terminata.", .icon = Icon::Critical, .reason = error.what()});
   }
 }
 
