@@ -88,7 +88,7 @@ void ConsoleShell::print(const Grid& grid, const PrintSetup& setup) {
                                .orientation = setup.landscape ? "landscape" : "portrait",
                                .margin = setup.horizontalMargin});
   const Script::Queued answer = take();
-  if (answer.answer == Answer::File) printToPdf(grid, setup, answer.text);
+  if (answer.answer == Answer::File) printToPdf(grid, withHeader(grid, setup), answer.text);
 }
 
 void ConsoleShell::openAddress(const std::string& url) {
