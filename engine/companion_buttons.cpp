@@ -34,6 +34,13 @@ CompanionRequest requestOf(const Workbench& w, const CompanionButton& button) {
   return request;
 }
 
+// What the progress bar counts: hit rows, or the first wheels that ambi and lunghette of several elements go through.
+int progressSteps(const Workbench& w, const CompanionButton& button) {
+  if (button.table == Table::Terni || button.shape == Shape::OneNumber)
+    return (w.*hitSource(button.table).hits).dataRows();
+  return button.shape == Shape::TwoTwoWheels ? kWheels - 1 : kWheels;
+}
+
 }  // namespace
 
 const CompanionButton& companionSearch(std::string_view name) {
@@ -57,7 +64,10 @@ void CercaCompagni(Workbench& w, const CompanionButton& button) {
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, w.Elenco);
   const CompanionRequest request = requestOf(w, button);
+  const int steps = progressSteps(w, button);
+  w.shell().progress(0, steps);
   const std::vector<Candidate> ranking = searchCompanions(request);
+  w.shell().progress(steps, steps);
   writeRanking(w, ranking, button.shape, request.withFix);
   if (button.writesOperator) writeAllRows(w, kOperator, w.OperazioneCorrente);
   writeAllRows(w, kAlteration, w.Combo1R_1N.text());

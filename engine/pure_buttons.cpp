@@ -70,8 +70,11 @@ void CercaNumeri(Workbench& w, int wheelsOfSet) {
   w.Elenco = w.ComboEle.number();
   w.Colpi = w.ComboColpi.number();
   const std::vector<WheelSet> sets = wheelsOfSet == 0 ? std::vector<WheelSet>{w.RuoteGioco} : wheelSetsOf(wheelsOfSet);
+  const int steps = wheelsOfSet == 0 ? w.FgEv.dataRows() : static_cast<int>(sets.size());
+  w.shell().progress(0, steps);
   const std::vector<NumberRow> rows =
       overwritePassByPass(countNumbers(w.archive, countingCases(w), w.Colpi, w.EstrazioneRiferimento, sets));
+  w.shell().progress(steps, steps);
 
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, kMostNumber);
@@ -101,7 +104,11 @@ void CercaNumeriCompagni(Workbench& w, Table table) {
   w.Elenco = w.ComboEle.number();
   SettaggioFix(w);
   w.Colpi = w.ComboColpi.number();
+  // The lunghetta's walks over the wheels.
+  const int steps = table == Table::Lunghetta ? kWheels : (w.*hitSource(table).hits).dataRows();
+  w.shell().progress(0, steps);
   const NumberCounts counts = countCompanions(w, table);
+  w.shell().progress(steps, steps);
 
   const Grid::Batch batch(w.FgF);
   blankCandidates(w, kMostNumber);
