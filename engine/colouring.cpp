@@ -46,8 +46,10 @@ void numeraFg00(Workbench& w) {
   for (int row = 1; row < w.Fg00.rows(); ++row) w.Fg00.setNumber(row, 0, row);
 }
 
-void coloraEsiti(Grid& hits) {
+void coloraEsiti(Workbench& w, Table table) {
   using namespace hit_column;
+  Grid& hits = w.hits(table);
+  if (table == Table::Ambi || table == Table::Terni) w.Fg15.fitColumns();
   if (!hits.hasData()) return;
   const Grid::Batch batch(hits);
   for (int row = 1; row < hits.rows(); ++row) {

@@ -16,7 +16,8 @@ void Colora_fg00(Workbench& w);
 /// Numbers the rows of `Fg00` from 1.
 void numeraFg00(Workbench& w);
 
-/// Colours a hit grid and merges the equal neighbours of its column 1.
-void coloraEsiti(Grid& hits);
+/// Colours the hit grid of a table and merges the equal neighbours of its column 1; the ambi and the terni also have
+/// the columns of `Fg15` fitted.
+void coloraEsiti(Workbench& w, Table table);
 
 }  // namespace trv5

@@ -91,7 +91,7 @@ void writeRowHits(Workbench& w, const RowVerification& verified) {
     else
       markCovered(w, row, case_column::kHits + w.Sorte - 1, static_cast<int>(hits.size()));
   }
-  coloraEsiti(w.FgZ1);
+  coloraEsiti(w, Table::Ambate);
 }
 
 void verificaRiga(Workbench& w, const Grid& formulas,
@@ -118,7 +118,7 @@ void verificaTutte(Workbench& w, Table table) {
   clearMarks(w, traits.markColumn);
   writeHits(w, table, verified, true);
   const std::multiset<int> open = markOpen(w, table);
-  coloraEsiti(w.hits(table));
+  coloraEsiti(w, table);
   CreaStatistica(w);
   ContaEsitix(w);
   // The elaboration of the lunghetta counts anew what the panel then shows as covered.
@@ -139,7 +139,7 @@ void verificaPerCc(Workbench& w, Table table) {
   clearMarks(w, traitsOf(table).markColumn);
   writeHits(w, table, verified, true);
   markOpen(w, table);
-  coloraEsiti(w.hits(table));
+  coloraEsiti(w, table);
   ContaEsitix(w);
   if (table == Table::Lunghetta) Cmd_Elabora100(w);
 }
@@ -153,7 +153,7 @@ void verificaOltreLimite(Workbench& w, Table table) {
   const Verification verified = verifyTable(w, table, scope);
   if (traits.clearsMarksBeyondLimit) clearMarks(w, traits.markColumn);
   writeHits(w, table, verified, traits.marksBeyondLimit);
-  coloraEsiti(w.hits(table));
+  coloraEsiti(w, table);
   markOpenCases(w);
   azzeraStatistiche(w);
   w.shell().status("Verifica oltre limite: " + std::to_string(w.hits(table).dataRows()) + " righe");

@@ -222,8 +222,20 @@ TEST(ColouringOfFormulas, NumbersTheLunghettaInBold) {
 TEST(ColouringOfHits, LeavesAnEmptyGridAlone) {
   SevenWorld world;
   const Grid before = world.w.FgZ1;
-  coloraEsiti(world.w.FgZ1);
+  coloraEsiti(world.w, Table::Ambate);
   EXPECT_EQ(difference(before, world.w.FgZ1), "");
+}
+
+// The view fits the columns when it is asked to: once at each verification that says so.
+TEST(ColouringOfHits, HasTheNumbersInPlayFittedForAmbiAndTerniAlone) {
+  SevenWorld world;
+  Workbench& w = world.w;
+  for (const auto& [table, fits] : {std::pair(Table::Ambate, 0), std::pair(Table::Ambi, 1), std::pair(Table::Terni, 1),
+                                    std::pair(Table::Lunghetta, 0)}) {
+    const int before = w.Fg15.fitsAsked();
+    coloraEsiti(w, table);
+    EXPECT_EQ(w.Fg15.fitsAsked() - before, fits) << traitsOf(table).section;
+  }
 }
 
 }  // namespace
