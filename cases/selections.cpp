@@ -97,9 +97,9 @@ void fillStatisticsCaptions(Workbench& w) {
 
 void captionArrays(Workbench& w) {
   w.Label1[0].setText("Gioco");
-  w.Label1[1].setText("Colpi");
-  for (const auto& [index, label] : w.Label1)
-    label->setToolTip("Deseleziona tutte le ruote di gioco, fino alla prossima rilevazione");
+  w.Label1[0].setToolTip(
+      "Rende bianche le ruote di gioco; restano in gioco quelle di prima fino alla prossima rilevazione o al prossimo "
+      "clic su una ruota");
   for (const auto& [position, label] : w.LblPN) {
     label->setText(std::to_string(position));
     label->setBack(kWhite);
@@ -175,13 +175,13 @@ void CambiaEstrazioneRiferimento(Workbench& w) {
 }
 
 void CambiaTabPrevisioni(Workbench& w) {
-  constexpr std::pair<int, int> sorteOfTab[] = {{0, 1}, {1, 2}, {2, 3}, {4, 6}};
-  for (const auto& [tab, sorte] : sorteOfTab) {
+  constexpr std::pair<int, Table> tableOfTab[] = {
+      {0, Table::Ambate}, {1, Table::Ambi}, {2, Table::Terni}, {4, Table::Lunghetta}};
+  for (const auto& [code, button] : w.Cmd_LaSorte) button->setBack(Giallo);
+  for (const auto& [tab, table] : tableOfTab) {
     if (tab != w.SSTab3.index()) continue;
-    for (const auto& [index, button] : w.Cmd_LaSorte) {
-      button->setEnabled(index == sorte);
-      button->setBack(index == sorte ? Verde : Giallo);
-    }
+    for (const auto& [code, button] : w.Cmd_LaSorte) button->setEnabled(code == traitsOf(table).code);
+    w.Cmd_LaSorte[traitsOf(table).code].setBack(Verde);
   }
 }
 
@@ -269,7 +269,7 @@ void connectSelections(Workbench& w) {
   w.Label4.onEvent([&w] { paintAll(w.FgRR, Verde); });
   w.Label19.onEvent([&w] { paintAll(w.FgRR, kWhite); });
   // The wheels of play follow at the next detection only.
-  for (const auto& [index, label] : w.Label1) label->onEvent([&w] { paintAll(w.FgRG, kWhite); });
+  w.Label1[0].onEvent([&w] { paintAll(w.FgRG, kWhite); });
   w.TxtNumeri.onDoubleClick([&w] { w.TxtNumeri.set(""); });
   w.Txt_Denominazione.onDoubleClick([&w] { w.Txt_Denominazione.set(""); });
 }

@@ -15,7 +15,8 @@ void RicavaRuoteGioco(Workbench& w);
 /// Change of `hs1`: the reference draw and the label beside it.
 void CambiaEstrazioneRiferimento(Workbench& w);
 
-/// Change of tab of `SSTab3`: enables the `Cmd_LaSorte` of the tab, if it has one.
+/// Change of tab of `SSTab3`: all `Cmd_LaSorte` turn yellow; that of the tab, if it has one, turns green and is the
+/// enabled one. Other tabs change no enabling.
 void CambiaTabPrevisioni(Workbench& w);
 
 /// "Nuova configurazione (Reset)": empties every result, leaves the selections as they are.

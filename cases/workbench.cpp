@@ -19,7 +19,7 @@ Workbench::Workbench(const Archive& draws, Shell& shell)
       hs1(*this, "hs1", 1, 1),
       LabelRifE(*this, "LabelRifE"),
       FgRG(*this, "FgRG", 1, kWheels),
-      Label1(*this, "Label1", {0, 1}),
+      Label1(*this, "Label1", {0}),
       Label17(*this, "Label17", "Seleziona tutti", "Seleziona tutte le ruote di gioco"),
       Label18(*this, "Label18", "Seleziona tutti", "Deseleziona tutte le ruote di gioco"),
       ComboColpi(*this, "ComboColpi", Combo::Typing::Digits),

@@ -57,7 +57,7 @@ class Workbench : public Form, public WorkbenchState {
   Scroll hs1;
   Label LabelRifE;
   GridControl FgRG;            ///< wheels of play, one row
-  ControlArray<Label> Label1;  ///< captions whose click deselects all wheels of play
+  ControlArray<Label> Label1;  ///< "Gioco": its click deselects all wheels of play
   Label Label17, Label18;
   Combo ComboColpi;
 

@@ -1,8 +1,8 @@
 #include "cases/case_list.h"
-#include "cases/case_map.h"
 
 #include <gtest/gtest.h>
 
+#include "cases/case_map.h"
 #include "core/errors.h"
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"

@@ -19,7 +19,7 @@ namespace {
 
 const std::set<std::string> kPlaceless = {"FgZ100",     "Fg99",      "FgDett",    "FgS1",      "FgS2",
                                           "FgS3",       "FgS4",      "FgS5",      "FgS6",      "FgSort",
-                                          "Command117", "Command94", "Command95", "Command69", "Label1_1"};
+                                          "Command117", "Command94", "Command95", "Command69"};
 
 bool isText(const QWidget& widget) {
   return qobject_cast<const QAbstractButton*>(&widget) != nullptr || qobject_cast<const QLabel*>(&widget) != nullptr ||
