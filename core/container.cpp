@@ -37,6 +37,11 @@ Container::Container(Program& program)
       Pb1(*this, "Pb1"),
       FG5(*this, "FG5", "|N° estr|Data|PA|PM"),
       m_program(program) {
+  connectButtons();
+  m_program.container = this;
+}
+
+void Container::connectButtons() {
   opens(Command4, "Sommativi1");
   opens(Command1, "archivio");
   opens(Command5, "Estrazioni_minielenco");
@@ -58,7 +63,6 @@ Container::Container(Program& program)
     m_program.closeDatabases();
     shell().quit();
   });
-  m_program.container = this;
 }
 
 Container::~Container() {

@@ -39,6 +39,7 @@ class Container : public Form {
   GridControl FG5;
 
  private:
+  void connectButtons();
   void opens(Button& button, std::string screen);
 
   Program& m_program;

@@ -21,11 +21,7 @@ QString withWholeArrow(QString text) {
       .replace(QStringLiteral("->"), QStringLiteral("-\u2060>"));
 }
 
-}  // namespace
-
-InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
-  setWindowIcon(programMark());
-
+QBoxLayout* headOf() {
   auto* const mark = new IconLabel(programMark(), 92);
   auto* const name = new QLabel(QStringLiteral("TRV5 Nerovia Forge V2"));
   QFont font = Theme::current().title();
@@ -35,8 +31,11 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   QBoxLayout* const words =
       column({Piece::gap(), name, Kit::text(QStringLiteral("Versione ") + version, Type::Hint), Piece::gap()});
   words->setSpacing(0);
-  QBoxLayout* const head = row({mark, Piece::space(), words, Piece::gap()});
+  return row({mark, Piece::space(), words, Piece::gap()});
+}
 
+// The archive of the moment, and the choice of another.
+QWidget* archivePanel(Kit& kit, QPushButton* choose) {
   auto* const panel = new Panel;
   auto* const archive = new IconLabel(icon(QStringLiteral("archive")), 24);
   QLabel* const caption = kit.label("Label5", Type::Hint);
@@ -50,7 +49,6 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   path->setAccessibleName(QStringLiteral("Percorso archivio"));
   lines->addWidget(path, 0, 2, 1, 2);
   lines->addWidget(note, 1, 1, 1, 2);
-  QPushButton* const choose = kit.button("Command4", {.icon = "folder", .mnemonic = 'A'});
   lines->addWidget(choose, 1, 3);
   lines->setColumnStretch(2, 1);
   lines->setVerticalSpacing(2 * Theme::current().unit());
@@ -58,7 +56,15 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   const int inner = Theme::current().unit();
   lines->setContentsMargins(inner, inner, inner, inner);
   panel->body()->addLayout(lines);
+  return panel;
+}
 
+}  // namespace
+
+InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
+  setWindowIcon(programMark());
+
+  QPushButton* const choose = kit.button("Command4", {.icon = "folder", .mnemonic = 'A'});
   QPushButton* const proceed =
       kit.button("Command2", {.kind = ButtonKind::Primary, .icon = "play", .mnemonic = 'P', .tall = true});
   QPushButton* const end = kit.button("Command3", {.icon = "power", .mnemonic = 'F', .tall = true});
@@ -70,9 +76,9 @@ InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   auto* const layout = new QVBoxLayout(this);
   const int margin = 4 * Theme::current().unit();
   layout->setContentsMargins(margin, margin - 4, margin, 20);
-  layout->addLayout(head);
+  layout->addLayout(headOf());
   layout->addSpacing(14);
-  layout->addWidget(panel);
+  layout->addWidget(archivePanel(kit, choose));
   layout->addStretch();
   QProgressBar* const load = kit.progress("pb1");
   load->setAccessibleName(QStringLiteral("Avanzamento"));

@@ -63,6 +63,15 @@ void ContainerScreen::buildRail() {
   m_otherButtons.push_back(m_menu);
   layout->addWidget(m_menu);
   layout->addWidget(inset(separator(Qt::Horizontal)));
+  addScreenButtons(*layout);
+  layout->addWidget(inset(separator(Qt::Horizontal)));
+  addDrawList(*layout);
+  layout->addWidget(inset(separator(Qt::Horizontal)));
+  layout->addWidget(schemeButton());
+  addBottomButtons(*layout);
+}
+
+void ContainerScreen::addScreenButtons(QBoxLayout& layout) {
   for (const RailRow& row : kRail) {
     auto* const button = new RailButton(QLatin1String(row.icon));
     button->setCheckable(true);
@@ -75,10 +84,12 @@ void ContainerScreen::buildRail() {
       if (m_anyOpen && m_area->x() < m_rail->width()) foldRail();  // it lies over the screen that was asked for
     });
     m_buttons.push_back({button, row.screen});
-    layout->addWidget(button);
+    layout.addWidget(button);
   }
-  layout->addWidget(inset(separator(Qt::Horizontal)));
+}
 
+// What the panel shows while it is wide.
+void ContainerScreen::addDrawList(QBoxLayout& layout) {
   m_wideOnly = new QWidget;
   auto* const wide = new QVBoxLayout(m_wideOnly);
   wide->setContentsMargins(6, 6, 6, 6);
@@ -90,12 +101,12 @@ void ContainerScreen::buildRail() {
                                .folded = {0},
                                .atEnd = true});
   wide->addWidget(m_draws, 1);
-  layout->addWidget(m_wideOnly, 1);
+  layout.addWidget(m_wideOnly, 1);
   m_filler = new QWidget;
-  layout->addWidget(m_filler, 1);
+  layout.addWidget(m_filler, 1);
+}
 
-  layout->addWidget(inset(separator(Qt::Horizontal)));
-  layout->addWidget(schemeButton());
+void ContainerScreen::addBottomButtons(QBoxLayout& layout) {
   m_bottom = new QBoxLayout(QBoxLayout::LeftToRight);
   m_bottom->setSpacing(0);
   for (const RailRow& row : {RailRow{"Command33", "help", ""}, RailRow{"Command45", "power", ""}}) {
@@ -106,7 +117,7 @@ void ContainerScreen::buildRail() {
     m_bottom->addWidget(button);
   }
   m_bottom->addStretch();
-  layout->addLayout(m_bottom);
+  layout.addLayout(m_bottom);
 }
 
 // Light, dark, or as the desktop.
@@ -168,7 +179,12 @@ void ContainerScreen::buildStatusBlock(QBoxLayout& into) {
   for (int c = 0; c < 3; ++c) block->setColumnStretch(c, 1);
   panel->body()->addLayout(block);
   into.addWidget(panel);
-  // There only while the archive has something to be looked at.
+  into.addWidget(verifyButton());
+  followLastDraw(*lastDate, *lastIndex);
+}
+
+// There only while the archive has something to be looked at.
+QPushButton* ContainerScreen::verifyButton() {
   auto* const verify = new QPushButton;
   dress(*verify, {.kind = ButtonKind::Quiet, .icon = "archive"});
   auto& verifyControl = m_form.get<Button>("Cmd_Verifica");
@@ -177,20 +193,22 @@ void ContainerScreen::buildStatusBlock(QBoxLayout& into) {
     verify->setText(qs(verifyControl.caption()));
     verify->setVisible(!verifyControl.caption().empty());
   });
-  into.addWidget(verify);
+  return verify;
+}
 
-  // The last draw also stands in the status bar.
+// The last draw also stands in the status bar.
+void ContainerScreen::followLastDraw(QLabel& lastDate, QLabel& lastIndex) {
   m_lastDate = quietLabel({});
   m_lastIndex = quietLabel({});
   auto& dateControl = m_form.get<Label>("LblFine");
-  follow(*lastDate, dateControl, [this, lastDate, &dateControl] {
-    lastDate->setText(qs(dateControl.text()));
-    m_lastDate->setText(QStringLiteral("Data fine ") + lastDate->text());
+  follow(lastDate, dateControl, [this, &lastDate, &dateControl] {
+    lastDate.setText(qs(dateControl.text()));
+    m_lastDate->setText(QStringLiteral("Data fine ") + lastDate.text());
   });
   auto& indexControl = m_form.get<Label>("Lbl_fineNE");
-  follow(*lastIndex, indexControl, [this, lastIndex, &indexControl] {
-    lastIndex->setText(qs(indexControl.text()));
-    m_lastIndex->setText(QStringLiteral("Indice fine ") + lastIndex->text());
+  follow(lastIndex, indexControl, [this, &lastIndex, &indexControl] {
+    lastIndex.setText(qs(indexControl.text()));
+    m_lastIndex->setText(QStringLiteral("Indice fine ") + lastIndex.text());
   });
 }
 

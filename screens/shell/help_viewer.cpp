@@ -105,7 +105,18 @@ HelpViewer::HelpViewer(QWidget* parent)
   back->setEnabled(false);
   forward->setEnabled(false);
 
+  buildSearch();
   auto* const layout = new QVBoxLayout(this);
+  layout->addLayout(row({back, forward, index, Piece::space(), {m_words, 1}}));
+  layout->addWidget(m_hits, 1);
+  layout->addWidget(m_browser, 2);
+  connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
+  connect(&Theme::current(), &Theme::changed, this, &HelpViewer::dressPage);
+  dressPage();
+  resize(760, 640);
+}
+
+void HelpViewer::buildSearch() {
   m_words->setObjectName(QStringLiteral("cerca"));
   m_words->setPlaceholderText(QStringLiteral("Cerca in tutte le pagine"));
   m_words->setAccessibleName(m_words->placeholderText());
@@ -123,13 +134,6 @@ HelpViewer::HelpViewer(QWidget* parent)
   connect(m_hits, &QListWidget::itemClicked, this, follow);
   connect(m_hits, &QListWidget::itemActivated, this, follow);
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_words, [this] { m_words->setFocus(); });
-  layout->addLayout(row({back, forward, index, Piece::space(), {m_words, 1}}));
-  layout->addWidget(m_hits, 1);
-  layout->addWidget(m_browser, 2);
-  connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
-  connect(&Theme::current(), &Theme::changed, this, &HelpViewer::dressPage);
-  dressPage();
-  resize(760, 640);
 }
 
 void HelpViewer::dressPage() {

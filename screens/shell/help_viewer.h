@@ -26,6 +26,7 @@ class HelpViewer : public QWidget {
   QUrl page() const;
 
  private:
+  void buildSearch();
   void dressPage();
   void search();
 

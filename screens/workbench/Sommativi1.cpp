@@ -86,6 +86,11 @@ Sommativi1Screen::Sommativi1Screen(Workbench& form)
   buildKeys();
   orderTabs();
   tellKeys();
+  followPages();
+}
+
+// A page made later has its place in the order of Tab, its keys and its needs.
+void Sommativi1Screen::followPages() {
   for (auto* const page : findChildren<LazyPage*>())
     connect(page, &LazyPage::made, this, [this] {
       orderTabs();

@@ -46,6 +46,7 @@ class Sommativi1Screen : public Screen {
 
   void buildKeys();
   void key(const QKeySequence& sequence, std::function<void()> run);
+  void followPages();
   void orderTabs();
   void tellKeys();
   void makeNextPage();

@@ -17,8 +17,8 @@
 namespace trv5 {
 namespace {
 
-const std::set<std::string> kPlaceless = {"FgZ100",     "Fg99",      "FgDett",    "FgS1",      "FgS2",
-                                          "FgS3",       "FgS4",      "FgS5",      "FgS6",      "FgSort",
+const std::set<std::string> kPlaceless = {"FgZ100",     "Fg99",      "FgDett",    "FgS1",     "FgS2",
+                                          "FgS3",       "FgS4",      "FgS5",      "FgS6",     "FgSort",
                                           "Command117", "Command94", "Command95", "Command69"};
 
 bool isText(const QWidget& widget) {
