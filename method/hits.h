@@ -36,12 +36,16 @@ using Hits = std::vector<Hit>;
 /// Ambate: each drawing of each number in play is a hit of its own. Order: draw, wheel, position.
 Hits hitsOfNumbers(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
 
-/// Ambi, terni: for each set made of one number of each list, the wheels that hold at least as many drawn numbers of
-/// the set as there are lists. Order: the sets as the lists enumerate them (first list outermost), draw, wheel.
+/// Ambi, terni: for each set made of one number of each list (one to three lists), the wheels that hold at least as
+/// many drawn numbers of the set as there are lists. Order: the sets as the lists enumerate them (first list
+/// outermost), draw, wheel.
 Hits hitsOfSets(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, std::span<const NumberList> lists);
 
 /// Lunghetta: the wheels that hold at least `wanted` of the numbers in play. Order: draw, wheel.
 Hits hitsOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay, int wanted);
+
+/// How many hits hitsOfAll would list.
+int countOfAll(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay, int wanted);
 
 /// How many numbers in play stand on the last wheel of play of the last draw that counts; 0 when none counts.
 int matchesOnLastWheel(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
