@@ -57,13 +57,27 @@ int CandidateCounts::hits(const OneCase& one, int number) {
 }
 
 Totals verifiedTotals(const CandidateRequest& request, ParametriFormula& carry) {
-  const Verification verified =
-      verify(*request.archive, request.method, request.table, request.caseDraws, {.leftOut = request.leftOut}, carry);
-  if (request.table != Table::Lunghetta) return verified.totals;
-  const Elaboration elaborated = elaborate(*request.archive, request.method, request.caseDraws, carry);
+  const Archive& archive = *request.archive;
+  if (request.table != Table::Lunghetta)
+    return verify(archive, request.method, request.table, request.caseDraws, {.leftOut = request.leftOut}, carry)
+        .totals;
+  // The lunghetta is evaluated twice, for its verification and for the elaboration that ends it; of both only the
+  // counts are wanted.
+  const std::vector<CaseNumbers> verified = numbersInPlay(archive, request.method.formulas, request.caseDraws, carry);
+  const std::vector<CaseNumbers> elaborated = numbersInPlay(archive, request.method.formulas, request.caseDraws, carry);
+  const PlayWindow window = request.method.window();
   Totals totals;
-  for (std::size_t i = 0; i < verified.hits.size(); ++i)
-    totals.add(elaborated.marked[i] > 0 ? elaborated.marked[i] : static_cast<int>(verified.hits[i].size()));
+  for (std::size_t i = 0; i < request.caseDraws.size(); ++i) {
+    const int draw = request.caseDraws[i];
+    const auto count = [&](const std::vector<CaseNumbers>& numbers) {
+      return countOfAll(archive, draw, window, numbers[i][indexOf(Table::Lunghetta)].flags(), request.method.sorte);
+    };
+    const NumberFlags& inPlay = elaborated[i][indexOf(Table::Lunghetta)].flags();
+    const bool marks = marksCase(archive, draw, window, inPlay);
+    const bool leftOut = i < request.leftOut.size() && request.leftOut[i];
+    const int reached = marks ? count(elaborated) : 0;
+    totals.add(reached > 0 || leftOut ? reached : count(verified));
+  }
   return totals;
 }
 

@@ -4,10 +4,13 @@
 
 namespace trv5 {
 
+bool marksCase(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay) {
+  return matchesOnLastWheel(outcomes, caseDraw, window, inPlay) >= 2;
+}
+
 Elaboration elaborate(const Archive& archive, const Method& method, const std::vector<int>& caseDraws,
                       ParametriFormula& carry) {
-  constexpr int kLeast = 1;    // numbers on a wheel that are listed already
-  constexpr int kMarking = 2;  // numbers on the last wheel that mark the case
+  constexpr int kLeast = 1;  // numbers on a wheel that are listed already
   Elaboration e;
   e.numbers = numbersInPlay(archive, method.formulas, caseDraws, carry);
   e.marked.resize(caseDraws.size());
@@ -18,8 +21,7 @@ Elaboration elaborate(const Archive& archive, const Method& method, const std::v
     for (const Hit& hit : hits) ++e.bySorte[static_cast<std::size_t>(hit.count)];
     const auto reached =
         std::count_if(hits.begin(), hits.end(), [&](const Hit& hit) { return hit.count >= method.sorte; });
-    if (reached >= 1 && matchesOnLastWheel(archive, caseDraws[i], window, inPlay) >= kMarking)
-      e.marked[i] = static_cast<int>(reached);
+    if (reached >= 1 && marksCase(archive, caseDraws[i], window, inPlay)) e.marked[i] = static_cast<int>(reached);
   }
   return e;
 }

@@ -14,6 +14,9 @@ struct Elaboration {
   std::array<int, 6> bySorte{};      ///< hits by quantity of numbers 1..5
 };
 
+/// True when the last wheel looked at holds enough of the numbers for a hit to mark the case.
+bool marksCase(const Outcomes& outcomes, int caseDraw, const PlayWindow& window, const NumberFlags& inPlay);
+
 /// Works out the lunghetta in all cases. A case that reached the sorte is marked only when the last wheel looked at, of
 /// the last draw that counts, holds two of its numbers: not the best wheel of the case decides, and users' methods rely
 /// on it.
