@@ -52,22 +52,11 @@ PlainFormula plainFormula(const Workbench& w, Shape shape) {
   return formula;
 }
 
-// The search as its steps tell it, on grids.
-void plainSearch(Workbench& w, const CompanionButton& b) {
+// What the buttons read: the hits that count and the inputs.
+CompanionRequest plainRequest(const Workbench& w, const CompanionButton& b) {
   const int sorte = traitsOf(b.table).code;
   const Rules rules = rulesOf(sorte);
   const Grid& hits = w.*rules.hits;
-  if (sorte != 6 && hits.rows() < 2) return;
-  if (sorte == 6) w.Sorte = w.ComboSorte.index() + 1;
-  w.Elenco = w.ComboEle.number();
-  w.Colpi = w.ComboColpi.number();
-  SettaggioFix(w);
-  const int op = std::max(0, w.Combo1R_2N.index() - 1);
-  const bool fourOnly = std::string("Command37 Command31 Command45 Command57").find(b.name) != std::string::npos;
-  if (b.shape != Shape::OneNumber && (op < 4 || !fourOnly))
-    w.OperazioneCorrente = kOperators[static_cast<std::size_t>(op)];
-  if (sorte == 6) PreparaPerScoperti(w);
-
   CompanionRequest request;
   request.archive = &w.archive;
   for (int r = 1; r < hits.rows(); ++r) {
@@ -90,6 +79,24 @@ void plainSearch(Workbench& w, const CompanionButton& b) {
   request.allowedFix = w.FixAmmessi;
   request.withFix = w.ChFix1R.checked();
   request.keep = w.Elenco;
+  return request;
+}
+
+// The search as its steps tell it, on grids.
+void plainSearch(Workbench& w, const CompanionButton& b) {
+  const int sorte = traitsOf(b.table).code;
+  if (sorte != 6 && (w.*rulesOf(sorte).hits).rows() < 2) return;
+  if (sorte == 6) w.Sorte = w.ComboSorte.index() + 1;
+  w.Elenco = w.ComboEle.number();
+  w.Colpi = w.ComboColpi.number();
+  SettaggioFix(w);
+  const int op = std::max(0, w.Combo1R_2N.index() - 1);
+  const bool fourOnly = std::string("Command37 Command31 Command45 Command57").find(b.name) != std::string::npos;
+  if (b.shape != Shape::OneNumber && (op < 4 || !fourOnly))
+    w.OperazioneCorrente = kOperators[static_cast<std::size_t>(op)];
+  if (sorte == 6) PreparaPerScoperti(w);
+
+  const CompanionRequest request = plainRequest(w, b);
   const std::vector<Candidate> ranking = plainSearchCompanions(plainFormula(w, b.shape), request);
 
   w.FgF.setRows(1);

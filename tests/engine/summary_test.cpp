@@ -15,9 +15,8 @@
 namespace trv5 {
 namespace {
 
-// RIEPILOGO as its steps tell it, on the grid.
-void plainSummary(Workbench& w) {
-  w.EsitiPerSorte = {};
+// RIEPILOGO as its steps tell it, on the grid: the hits of the ticked tables, then the cases without.
+void plainJoin(Workbench& w) {
   Grid& FgZZ = w.FgZZ;
   FgZZ.setRows(1);
   std::array<std::array<bool, 4>, 51> CasoConEsito{};
@@ -51,6 +50,10 @@ void plainSummary(Workbench& w) {
   for (int row = 1; row < FgZZ.rows(); ++row) FgZZ.setBack(row, 3, 0x80FFFF);
   FgZZ.sortByNumber(14, false);
   FgZZ.sortByNumber(0, false);
+}
+
+void plainFirstColpo(Workbench& w) {
+  Grid& FgZZ = w.FgZZ;
   if (w.Ch1esito.checked()) {
     std::array<int, 51> PrimoColpo{};
     PrimoColpo.fill(1000);
@@ -63,6 +66,11 @@ void plainSummary(Workbench& w) {
           FgZZ.number(row, 14) != PrimoColpo.at(static_cast<std::size_t>(FgZZ.number(row, 0))))
         FgZZ.removeRow(row);
   }
+}
+
+void plainStatistics(Workbench& w) {
+  Grid& FgZZ = w.FgZZ;
+  w.EsitiPerSorte = {};
   w.CasiInCorso = 0;
   for (int i = 1; i < w.FgEv.rows(); ++i) {
     if (w.FgEv.back(i, 1) != 0x00FFFF) continue;
@@ -96,6 +104,12 @@ void plainSummary(Workbench& w) {
       if (FgZZ.back(row, c) == 0x00FF00) FgZZ.setBack(row, c, q == 1 ? 0x80FF80U : q == 2 ? 0xFFFF00U : 0xFFC080U);
   }
   FgZZ.setMerged({0, 1, 2});
+}
+
+void plainSummary(Workbench& w) {
+  plainJoin(w);
+  plainFirstColpo(w);
+  plainStatistics(w);
 }
 
 TEST(Summary, OfRandomMethodsIsWhatItsStepsLeave) {

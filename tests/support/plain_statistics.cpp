@@ -16,53 +16,54 @@ void PlainWorkbench::Cmd_Elabora100() {
     messages.emplace_back("Attenzione si possono elaborare al massimo 10 numeri.");
     return;
   }
-  const int wanted = sorteChosen;
   state.TipoVerifica = 6;
   state.EsitiPerSorte.fill(0);
   RicavaElementiReali();
   state.Sorte = 1;
   FgZ100.setRows(1);
-  for (int i = 1; i < FgEv.rows(); ++i) {
-    NumberFlags present{};
-    const std::string& cell = Fg15.text(i, 6);
-    for (std::size_t at = 0; at < cell.size(); at += 3)
-      present[static_cast<std::size_t>(numberOf(cell.substr(at, 2)))] = true;
-    bool found = false;
-    int hitsOfSorte = 0, last = 0;
-    const int c = FgEv.number(i, 1);
-    for (int d = c + 1; d <= c + state.Colpi; ++d) {
-      if (d > state.EstrazioneRiferimento) continue;
-      for (int w = 0; w < 11; ++w) {
-        if (!plays(w)) continue;
-        const auto matches = [&](int k) {
-          return drawn(d, w, k) != 0 && present[static_cast<std::size_t>(drawn(d, w, k))];
-        };
-        last = 0;
-        for (int k = 1; k <= 5; ++k) last += matches(k) ? 1 : 0;
-        if (last < state.Sorte) continue;
-        if (last >= wanted) ++hitsOfSorte;
-        ++state.EsitiPerSorte[static_cast<std::size_t>(last)];
-        found = true;
-        const int row = appendHit(FgZ100, i, d, w);
-        FgZ100.setNumber(row, 3, last);
-        int column = 6;
-        for (int k = 1; k <= 5; ++k) {
-          if (!matches(k)) continue;
-          FgZ100.setNumber(row, column++, drawn(d, w, k));
-          FgZ100.setBack(row, 16 + k, ColoriSorte[static_cast<std::size_t>(last)]);
-        }
-      }
-    }
-    if (hitsOfSorte >= 1 && last >= 2) {
-      FgEv.setBack(i, 22, 0x00FF00);
-      FgEv.setNumber(i, 22, hitsOfSorte);
-    }
-    if (!found) appendMiss(FgZ100, i);
-  }
+  for (int i = 1; i < FgEv.rows(); ++i) elaborateCase(i, sorteChosen);
   if (FgEv.rows() > 1) {
     markOpen();
     ContaEsitix();
   }
+}
+
+void PlainWorkbench::elaborateCase(int i, int wanted) {
+  NumberFlags present{};
+  const std::string& cell = Fg15.text(i, 6);
+  for (std::size_t at = 0; at < cell.size(); at += 3)
+    present[static_cast<std::size_t>(numberOf(cell.substr(at, 2)))] = true;
+  bool found = false;
+  int hitsOfSorte = 0, last = 0;
+  const int c = FgEv.number(i, 1);
+  for (int d = c + 1; d <= c + state.Colpi; ++d) {
+    if (d > state.EstrazioneRiferimento) continue;
+    for (int w = 0; w < 11; ++w) {
+      if (!plays(w)) continue;
+      const auto matches = [&](int k) {
+        return drawn(d, w, k) != 0 && present[static_cast<std::size_t>(drawn(d, w, k))];
+      };
+      last = 0;
+      for (int k = 1; k <= 5; ++k) last += matches(k) ? 1 : 0;
+      if (last < state.Sorte) continue;
+      if (last >= wanted) ++hitsOfSorte;
+      ++state.EsitiPerSorte[static_cast<std::size_t>(last)];
+      found = true;
+      const int row = appendHit(FgZ100, i, d, w);
+      FgZ100.setNumber(row, 3, last);
+      int column = 6;
+      for (int k = 1; k <= 5; ++k) {
+        if (!matches(k)) continue;
+        FgZ100.setNumber(row, column++, drawn(d, w, k));
+        FgZ100.setBack(row, 16 + k, ColoriSorte[static_cast<std::size_t>(last)]);
+      }
+    }
+  }
+  if (hitsOfSorte >= 1 && last >= 2) {
+    FgEv.setBack(i, 22, 0x00FF00);
+    FgEv.setNumber(i, 22, hitsOfSorte);
+  }
+  if (!found) appendMiss(FgZ100, i);
 }
 
 void PlainWorkbench::ContaEsitix() {

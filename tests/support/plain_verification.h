@@ -54,6 +54,7 @@ class PlainWorkbench : public WorkbenchSnapshot {
   void closeForCc(const Kind& kind);
   void closeBeyondLimit(const Kind& kind);
 
+  void elaborateCase(int i, int wanted);
   void singleRow(const Grid& formulas, bool inlineEvaluation);
   void playRowWheels(const Grid& formulas, int row);
   void evaluateInline(const Grid& formulas, int row);
