@@ -7,6 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "cases/case_columns.h"
+#include "cases/formula_rows.h"
+#include "cases/hit_columns.h"
 #include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/controls.h"
@@ -54,62 +57,86 @@ class Workbench : public Form, public WorkbenchState {
   const Archive& archive;
 
   // Reference bar.
-  Scroll hs1;
-  Label LabelRifE;
-  GridControl FgRG;            ///< wheels of play, one row
-  ControlArray<Label> Label1;  ///< "Gioco": its click deselects all wheels of play
-  Label Label17, Label18;
-  Combo ComboColpi;
+  Scroll hs1{*this, "hs1", 1, 1};
+  Label LabelRifE{*this, "LabelRifE"};
+  GridControl FgRG{*this, "FgRG", 1, kWheels};       ///< wheels of play, one row
+  ControlArray<Label> Label1{*this, "Label1", {0}};  ///< "Gioco": its click deselects all wheels of play
+  Label Label17{*this, "Label17", "Seleziona tutti", "Seleziona tutte le ruote di gioco"},
+      Label18{*this, "Label18", "Seleziona tutti", "Deseleziona tutte le ruote di gioco"};
+  Combo ComboColpi{*this, "ComboColpi", Combo::Typing::Digits};
 
   // Selezioni.
-  Tabs SSTab1;  ///< 1 Selezioni, 0 Elenco estrazioni
-  Combo ComboFiltro, ComboPar, ComboR1, ComboNC, ComboQNu;
-  Check Ch_ultima;
-  ControlArray<Label> LblPN;  ///< positions 1..5
-  GridControl FgNu;           ///< the 90 numbers, 9 rows of 10
-  Combo ComboValF;
-  Text TxtNumeri;
-  Check Ch_analisi2ruote;
-  Combo ComboRetro;
-  Label Label4, Label19;
-  GridControl FgRR;  ///< wheels of detection, one row
-  Combo ComboQNR1, ComboQNR2;
-  Check ChDDS, Ch_ISO;
+  Tabs SSTab1{*this, "SSTab1", {{1, "Selezioni"}, {0, "Elenco estrazioni"}}};  ///< 1 Selezioni, 0 Elenco estrazioni
+  Combo ComboFiltro{*this, "ComboFiltro"}, ComboPar{*this, "ComboPar"}, ComboR1{*this, "ComboR1"},
+      ComboNC{*this, "ComboNC", Combo::Typing::Digits}, ComboQNu{*this, "ComboQNu"};
+  Check Ch_ultima{*this, "Ch_ultima", "Forza ultima", "Con \"U\" prende anche l'ultima estrazione dell'archivio"};
+  ControlArray<Label> LblPN{*this, "LblPN", {1, 2, 3, 4, 5}};  ///< positions 1..5
+  GridControl FgNu{*this, "FgNu", 9, 10};                      ///< the 90 numbers, 9 rows of 10
+  Combo ComboValF{*this, "ComboValF"};
+  Text TxtNumeri{*this, "TxtNumeri"};
+  Check Ch_analisi2ruote{*this, "Ch_analisi2ruote", "Analisi su ruote"};
+  Combo ComboRetro{*this, "ComboRetro"};
+  Label Label4{*this, "Label4", "Seleziona tutti", "Seleziona tutte le ruote di rilevazione"},
+      Label19{*this, "Label19", "Seleziona tutti", "Deseleziona tutte le ruote di rilevazione"};
+  GridControl FgRR{*this, "FgRR", 1, kWheels};  ///< wheels of detection, one row
+  Combo ComboQNR1{*this, "ComboQNR1"}, ComboQNR2{*this, "ComboQNR2"};
+  Check ChDDS{*this, "ChDDS", "D-D-S rapporto 1:1"}, Ch_ISO{*this, "Ch_ISO", "Isotopi"};
 
   // Elenco estrazioni.
-  GridControl FgEv;   ///< the cases
-  Label Label5;       ///< span of draws covered by the cases
-  GridControl FgSSS;  ///< totals of columns 17..22 of FgEv: hits, covered cases
+  GridControl FgEv{*this, "FgEv", kCaseHeading};  ///< the cases
+  Label Label5{*this, "Label5"};                  ///< span of draws covered by the cases
+  GridControl FgSSS{*this, "FgSSS", 2, 6};        ///< totals of columns 17..22 of FgEv: hits, covered cases
 
   // Ricerca.
-  LineList List1;
-  Combo ComboEle, Combo1R_1N, Combo1R_2N, ComboFix;
-  Check ChFix1R, Ch_Scoperti, ChVerifica;
-  GridControl FgF;                   ///< the ranked candidates
-  ControlArray<Button> Cmd_LaSorte;  ///< 1, 2, 3, 6
+  LineList List1{*this, "List1"};
+  Combo ComboEle{*this, "ComboEle", Combo::Typing::Digits}, Combo1R_1N{*this, "Combo1R_1N", Combo::Typing::Yes},
+      Combo1R_2N{*this, "Combo1R_2N"}, ComboFix{*this, "ComboFix"};
+  Check ChFix1R{*this, "ChFix1R", "Utilizza Fix"},
+      Ch_Scoperti{*this, "Ch_Scoperti", "Casi scoperti", "Cerca solo sui casi non ancora coperti"},
+      ChVerifica{*this, "ChVerifica", "Verifica automatica", "Verifica la tabella a ogni previsione aggiunta"};
+  GridControl FgF{*this, "FgF", rankingHeading()};                       ///< the ranked candidates
+  ControlArray<Button> Cmd_LaSorte{*this, "Cmd_LaSorte", {1, 2, 3, 6}};  ///< 1, 2, 3, 6
 
   // Forecasts.
-  Tabs SSTab3;
-  GridControl Fg11, Fg22, Fg33, Fg00;
-  GridControl FgZ1, FgZ2, FgZ3, FgZ0, FgZZ;
-  Check Check3, ChA, ChB, ChC, Ch1esito;
-  Combo ComboSorte;
-  GridControl FgIC;
-  ControlArray<Check> Ch_FF;  ///< 0 lunghette, 1, 2, 3
-  GridControl Fg15, FgGioco;
-  Tabs SSTab4;  ///< 0 Elenco, 1 Convergenze
-  GridControl FgRagg, FgConv;
-  Label Label7;
-  ControlArray<Check> OptionRit;  ///< 720, 360, 180
-  Check Ch_coperture;
-  Combo ComboDelta;
-  GridControl FgRit;
-  Text Txt_Denominazione;
-  GridControl FgPir1;
-  GridControl Fg_Stat, Fg_Graf;
+  Tabs SSTab3{*this,
+              "SSTab3",
+              {{0, "Ambate"},
+               {1, "Ambi"},
+               {2, "Terni"},
+               {3, "Riepilogo"},
+               {4, "Lunghetta"},
+               {5, "Previsioni in corso"},
+               {6, "Numeri in gioco"},
+               {7, "Raggruppamento"},
+               {8, "Informazioni"},
+               {9, "Configurazioni"}}};
+  GridControl Fg11{*this, "Fg11", tableHeading()}, Fg22{*this, "Fg22", tableHeading()},
+      Fg33{*this, "Fg33", tableHeading()}, Fg00{*this, "Fg00", tableHeading()};
+  GridControl FgZ1{*this, "FgZ1", kHitHeading}, FgZ2{*this, "FgZ2", kHitHeading}, FgZ3{*this, "FgZ3", kHitHeading},
+      FgZ0{*this, "FgZ0", kHitHeading}, FgZZ{*this, "FgZZ", kSummaryHeading};
+  Check Check3{*this, "Check3", "R", "Usa le ruote della riga"}, ChA{*this, "ChA", "1", "Ambate"},
+      ChB{*this, "ChB", "2", "Ambi"}, ChC{*this, "ChC", "3", "Terni"}, Ch1esito{*this, "Ch1esito", "Stop 1° esito"};
+  Combo ComboSorte{*this, "ComboSorte"};
+  GridControl FgIC{*this, "FgIC", "N° Estr|S   |Colpo|1|2|3|4|5|6|7|8|9|10|Data ril       |Ruote"};
+  ControlArray<Check> Ch_FF{*this, "Ch_FF", {0, 1, 2, 3}};  ///< 0 lunghette, 1, 2, 3
+  GridControl Fg15{*this, "Fg15", "||||||"}, FgGioco{*this, "FgGioco", "T  |1|2|3|4|5|6|7|8|9|10"};
+  Tabs SSTab4{*this, "SSTab4", {{0, "Elenco"}, {1, "Convergenze"}}};  ///< 0 Elenco, 1 Convergenze
+  GridControl FgRagg{*this, "FgRagg",
+                     "  |Config|Config|Rilev|Data Rilev|S |Colpo|1|2|3|4|5|6|7|8|9|10|B|C|F|G|M|N|P|R|T|V|Z"},
+      FgConv{*this, "FgConv", "Num|BA|CA|FI|GE|MI|NA|PA|RO|TO|VE|NZ"};
+  Label Label7{*this, "Label7"};
+  ControlArray<Check> OptionRit{*this, "OptionRit", {0, 1, 2}};  ///< 720, 360, 180
+  Check Ch_coperture{*this, "Ch_coperture", "Coperture"};
+  Combo ComboDelta{*this, "ComboDelta"};
+  GridControl FgRit{*this, "FgRit", "N°  |BA|CA|FI|GE|MI|NA|PA|RO|TO|VE|NZ|Sel"};
+  Text Txt_Denominazione{*this, "Txt_Denominazione"};
+  GridControl FgPir1{*this, "FgPir1", "|Cod|Denominazione|Estraz"};
+  GridControl Fg_Stat{*this, "Fg_Stat", 11, 2}, Fg_Graf{*this, "Fg_Graf", 3, 3};
 
   // Without a place on screen.
-  GridControl FgZ100, Fg99, FgDett, FgS1, FgS2, FgS3, FgS4, FgS5, FgS6, FgSort;
+  GridControl FgZ100{*this, "FgZ100", kHitHeading}, Fg99{*this, "Fg99", scratchHeading()}, FgDett{*this, "FgDett", ""},
+      FgS1{*this, "FgS1", ""}, FgS2{*this, "FgS2", ""}, FgS3{*this, "FgS3", ""}, FgS4{*this, "FgS4", ""},
+      FgS5{*this, "FgS5", ""}, FgS6{*this, "FgS6", ""}, FgSort{*this, "FgSort", ""};
 
   /// The formulas of a table, and the hits of its verification.
   GridControl& formulas(Table table);
