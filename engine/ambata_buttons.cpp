@@ -83,6 +83,7 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
   writeAllRows(w, kNr, button.nr);
   writeAllRows(w, kQn, button.qn);
   ColoraFgF(w);
+  if (!ranking.empty()) chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: " + std::to_string(ranking.size()) + " formule");
 }

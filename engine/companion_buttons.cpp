@@ -80,6 +80,7 @@ void closeCompanionSearch(Workbench& w, Table table) {
   VerificaCandidati(w, table);
   w.FgF.sortByNumber(formula_column::kCc, true);
   ColoraFgF(w);
+  chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: " + std::to_string(w.FgF.dataRows()) + " righe verificate");
 }

@@ -89,6 +89,7 @@ void CercaNumeri(Workbench& w, int wheelsOfSet) {
   writeAllRows(w, kNr, "0");
   writeAllRows(w, kQn, "1");
   ColoraFgF(w);
+  chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: 90 numeri");
 }

@@ -46,6 +46,10 @@ void writeRanking(Workbench& w, const std::vector<Candidate>& ranking, Shape sha
   }
 }
 
+void chooseFirstCandidate(Workbench& w) {
+  if (w.FgF.hasData()) w.FgF.setCurrent(w.FgF.headingRows(), w.FgF.currentColumn());
+}
+
 void writeAllRows(Workbench& w, int column, const std::string& text) {
   for (int row = 1; row < w.FgF.rows(); ++row) w.FgF.setText(row, column, text);
 }

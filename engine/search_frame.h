@@ -27,6 +27,9 @@ void blankCandidates(Workbench& w, int rows);
 /// Writes the elements, the fix (with `withFix`) and the counters of each ranked formula, from row 1.
 void writeRanking(Workbench& w, const std::vector<Candidate>& ranking, Shape shape, bool withFix);
 
+/// The first candidate becomes the current row: what a search ends with.
+void chooseFirstCandidate(Workbench& w);
+
 /// Writes `text` into a column of all candidate rows, the blank ones too.
 void writeAllRows(Workbench& w, int column, const std::string& text);
 

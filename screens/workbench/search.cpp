@@ -91,6 +91,12 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
   m_candidates =
       kit.grid("FgF", {.name = QStringLiteral("Formule trovate"), .samples = formulaSamples(), .tight = true});
   body()->addWidget(m_candidates, 1);
+  // A search ends with its first candidate current: where the list stood before is of no use any more.
+  for (auto* const button : m_pages->findChildren<QAbstractButton*>())
+    connect(button, &QAbstractButton::clicked, this, [this] {
+      m_candidates->sync();
+      if (m_w.FgF.current() == m_w.FgF.headingRows()) m_candidates->scrollToTop();
+    });
 
   std::vector<Piece> adding = {new IconLabel(icon(QStringLiteral("arrow_down"), IconInk::Quiet), 18),
                                Kit::text(QStringLiteral("Aggiunge previsione"), Type::Hint)};
@@ -142,10 +148,8 @@ void WorkbenchSearch::walk(const QWidget* from, int step) {
     all[static_cast<std::size_t>(next)]->setFocus(Qt::OtherFocusReason);
 }
 
-void WorkbenchSearch::chooseFirst() {
-  if (!m_w.FgF.hasData()) return;
-  m_candidates->clickCell(m_w.FgF.headingRows(), m_w.FgF.currentColumn());
-  m_candidates->setFocus(Qt::OtherFocusReason);
+void WorkbenchSearch::goToCandidates() {
+  if (m_w.FgF.hasData()) m_candidates->setFocus(Qt::OtherFocusReason);
 }
 
 int WorkbenchSearch::heightFor(int candidates, int width) const {
@@ -179,7 +183,7 @@ bool WorkbenchSearch::eventFilter(QObject* watched, QEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       button->click();
-      chooseFirst();
+      goToCandidates();
       return true;
     default:
       return Panel::eventFilter(watched, event);

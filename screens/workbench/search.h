@@ -37,7 +37,7 @@ class WorkbenchSearch : public Panel {
   QWidget* page(const std::vector<QWidget*>& groups, QWidget* counts);
   std::vector<QAbstractButton*> buttons() const;
   void walk(const QWidget* from, int step);
-  void chooseFirst();
+  void goToCandidates();
 
   Workbench& m_w;
   QLabel* m_title;

@@ -131,6 +131,7 @@ WorkbenchSnapshot plainRun(const WorkbenchWorld& world, const Rules& rules) {
   int row = 0;
   for (const Candidate& candidate : plainSearchAmbate(formula, request))
     writeCandidate(table, ++row, candidate, request, rules.wheels > 0);
+  if (row > 0) table.setCurrent(1, table.currentColumn());
   for (row = 1; row < table.rows(); ++row) {
     const bool chosen = rules.op == "?";
     table.setText(row, 10, chosen ? kOperators[static_cast<std::size_t>(formula.op)] : std::string_view(rules.op));

@@ -211,5 +211,30 @@ TEST_F(CompanionButtonsOnAMethod, OfTheLunghettaNeedCasesOneNumberShort) {
   EXPECT_EQ(column(formula_column::kR1), "|||||");
 }
 
+TEST(FirstCandidate, IsCurrentAfterEverySearchAndARefusedOneLeavesTheRowWhereItWas) {
+  std::mt19937 rng(3);
+  WorkbenchWorld world(randomArchive(rng, 300));
+  Workbench& w = world.w;
+  w.Label17.click();
+  w.ChFix1R.set(true);
+  world.setCases({290, 270, 250, 230, 210}, 10);
+  WorkbenchWorld::addFormula(w.Fg11, {.elements = {{0, 1}}});
+  WorkbenchWorld::addFormula(w.Fg22, {.elements = {{1, 2}}});
+  WorkbenchWorld::addFormula(w.Fg00, {.elements = {{2, 3}}});
+  for (const char* name : {"Command29", "Command34", "Cmd_Elabora100"}) world.press(name);
+  for (const char* name :
+       {"Command20", "Command13", "Command77", "Command99", "Command39", "Command105", "Command58"}) {
+    world.press(name);
+    EXPECT_EQ(w.FgF.current(), 1) << name;
+    w.FgF.setCurrent(3);
+  }
+  w.FgEv.cutToHeading();
+  w.FgZ1.cutToHeading();
+  for (const char* name : {"Command20", "Command77", "Command39", "Command105"}) {
+    world.press(name);
+    EXPECT_EQ(w.FgF.current(), 3) << name;
+  }
+}
+
 }  // namespace
 }  // namespace trv5

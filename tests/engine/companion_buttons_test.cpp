@@ -126,6 +126,7 @@ void plainSearch(Workbench& w, const CompanionButton& b) {
   fullCandidateCheck(w, b.table);
   w.FgF.sortByNumber(13, true);
   ColoraFgF(w);
+  if (w.FgF.rows() > 1) w.FgF.setCurrent(1, w.FgF.currentColumn());
   w.List1.add("10:30:15");
 }
 

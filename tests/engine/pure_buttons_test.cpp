@@ -82,6 +82,7 @@ void plainNumbers(Workbench& w, int wheelsOfSet) {
     w.FgF.setText(row, 15, "1");
   }
   ColoraFgF(w);
+  w.FgF.setCurrent(1, w.FgF.currentColumn());
   w.List1.add(kNow);
 }
 
@@ -120,6 +121,7 @@ void plainCompanions(Workbench& w, int sorte) {
   fullCandidateCheck(w, *tableOfCode(sorte));
   w.FgF.sortByNumber(13, true);
   ColoraFgF(w);
+  w.FgF.setCurrent(1, w.FgF.currentColumn());
   w.List1.add(kNow);
 }
 

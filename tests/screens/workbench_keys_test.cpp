@@ -6,6 +6,7 @@
 #include <QTest>
 #include <map>
 
+#include "screens/kit/grid_view.h"
 #include "window_world.h"
 #include "workbench_screen.h"
 
@@ -64,6 +65,23 @@ TEST(WorkbenchKeys, ArrowsWalkTheSearchesOfTheTabInFront) {
   w.SSTab3.set(3);
   press(world, Qt::Key_F6);
   EXPECT_TRUE(world.find("Command56").hasFocus());
+}
+
+TEST(WorkbenchSearches, BringTheFirstCandidateInSightByMouseToo) {
+  WorkbenchScreen world;
+  world.chooseSituation();
+  world.world.w.ChFix1R.set(true);
+  world.world.press("Command44");
+  auto& candidates = world.find<GridView>("FgF");
+  world.find<QAbstractButton>("Command23").click();
+  settle();
+  candidates.clickCell(50, 1);
+  candidates.scrollToBottom();
+  world.find<QAbstractButton>("Command10").click();
+  settle();
+  EXPECT_EQ(world.world.w.FgF.current(), 1);
+  EXPECT_EQ(candidates.currentIndex().row(), 0);
+  EXPECT_EQ(candidates.verticalScrollBar()->value(), 0);
 }
 
 TEST(WorkbenchKeys, F2ChangesThePage) {
