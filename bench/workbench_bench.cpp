@@ -143,20 +143,24 @@ void benchAll(const Archive& archive) {
   benchWholeMethod(world);
 }
 
-// The same where a formula hangs on the evaluation before it: every candidate is verified in sequence.
+// Candidates of 2N 1R over five formulas a table, the first ambata with this alteration.
+void prepareCandidates(WorkbenchWorld& world, Table table, const char* alteration) {
+  Workbench& w = world.w;
+  prepare(world, 10);
+  world.press("Command23");
+  for (const int code : {1, 2, 6}) takeOver(w, code, 5);
+  w.Fg11.setText(1, 17, alteration);
+  world.press("Command29");
+  world.press("Command34");
+  w.Fg22.setRows(table == Table::Terni ? 6 : 1);
+}
+
+// CC where a formula hangs on the evaluation before it: every candidate is verified in sequence.
 void benchCcOfStaleElements(const Archive& archive) {
   for (const Table table : {Table::Ambi, Table::Terni, Table::Lunghetta}) {
     WorkbenchWorld world(archive);
     Workbench& w = world.w;
-    prepare(world, 10);
-    world.press("Command23");
-    takeOver(w, 1, 5);
-    takeOver(w, 2, 5);
-    takeOver(w, 6, 5);
-    w.Fg11.setText(1, 17, "nessuna");
-    world.press("Command29");
-    world.press("Command34");
-    w.Fg22.setRows(table == Table::Terni ? 6 : 1);
+    prepareCandidates(world, table, "nessuna");
     const double seconds = secondsOf([&] { VerificaCandidati(w, table); }, 0.5);
     fmt::print("CC of 100 candidates after stale elements, table {}: {:.3f} ms\n", traitsOf(table).code, seconds * 1e3);
   }
@@ -168,14 +172,7 @@ void benchCc(const Archive& archive) {
   for (const Table table : {Table::Ambi, Table::Terni, Table::Lunghetta}) {
     WorkbenchWorld world(archive);
     Workbench& w = world.w;
-    prepare(world, 10);
-    world.press("Command23");
-    takeOver(w, 1, 5);
-    takeOver(w, 2, 5);
-    takeOver(w, 6, 5);
-    world.press("Command29");
-    world.press("Command34");
-    w.Fg22.setRows(table == Table::Terni ? 6 : 1);
+    prepareCandidates(world, table, "");
     const auto measure = [&](auto check) { return secondsOf([&] { check(w, table); }, 0.3); };
     const double slow = measure(fullCandidateCheck), quick = measure(VerificaCandidati);
     w.FgF.setRows(2);

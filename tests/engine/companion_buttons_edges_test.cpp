@@ -236,5 +236,26 @@ TEST(FirstCandidate, IsCurrentAfterEverySearchAndARefusedOneLeavesTheRowWhereItW
   }
 }
 
+TEST(ProgressBar, MovesWithEverySearchOfCompanionsAndOfPureNumbers) {
+  std::mt19937 rng(3);
+  WorkbenchWorld world(randomArchive(rng, 300));
+  Workbench& w = world.w;
+  w.Label17.click();
+  world.setCases({290, 270, 250}, 10);
+  WorkbenchWorld::addFormula(w.Fg11, {.elements = {{0, 1}}});
+  world.press("Command29");
+  const int hitRows = w.FgZ1.dataRows();
+  const std::pair<const char*, int> wanted[] = {{"Command77", 3},       {"Command101", 11},      {"Command100", 55},
+                                                {"Command99", 165},     {"Command105", hitRows}, {"Command108", 11},
+                                                {"Command28", hitRows}, {"Command39", 11},       {"Command31", 10}};
+  for (const auto& [name, steps] : wanted) {
+    world.shell.progressValues.clear();
+    world.press(name);
+    ASSERT_GE(world.shell.progressValues.size(), 2U) << name;  // the recount then moves it on its own
+    EXPECT_EQ(world.shell.progressValues[0], std::pair(0, steps)) << name;
+    EXPECT_EQ(world.shell.progressValues[1], std::pair(steps, steps)) << name;
+  }
+}
+
 }  // namespace
 }  // namespace trv5

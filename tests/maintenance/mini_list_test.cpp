@@ -275,5 +275,21 @@ TEST(MiniListDateSearch, DoesNotFindADateBeforeTheModelArchive) {
   EXPECT_EQ(world.list.hs1.value(), 3);
 }
 
+TEST(MiniList, ShowsACaseOfAnArchiveThatHasGrownSinceItWasOpened) {
+  MiniListWorld world;
+  std::vector<DrawRow> rows = threeDraws();
+  rows.push_back(drawOf("11/02/1939", {{"RO", {21, 22, 23, 24, 25}}}));
+  world.archive = archiveOfRows(rows);
+  MarkedDraw first{4, 7, {}}, second{4, 7, {}};
+  first.positions[2] = second.positions[5] = true;
+  MostraElementi(world.list, first, second);
+  EXPECT_EQ(world.list.hs1.value(), 4);
+  EXPECT_EQ(world.list.Hs2.value(), 4);
+  EXPECT_EQ(world.list.fG2.back(8, 2), Verde);
+  EXPECT_EQ(world.list.fG3.back(8, 5), Verde);
+  EXPECT_EQ(MiniListWorld::marks(world.list.fG2), 1);
+  EXPECT_EQ(MiniListWorld::marks(world.list.fG3), 1);
+}
+
 }  // namespace
 }  // namespace trv5
