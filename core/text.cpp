@@ -83,4 +83,16 @@ bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
 }
 
+std::string foldedCase(std::string_view text) {
+  std::string low(text);
+  for (std::size_t i = 0; i < low.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(low[i]);
+    // U+00C0 to U+00DE, but for the multiplication sign among them.
+    const bool accented =
+        i > 0 && static_cast<unsigned char>(low[i - 1]) == 0xC3 && byte >= 0x80 && byte <= 0x9E && byte != 0x97;
+    if (accented || (byte >= 'A' && byte <= 'Z')) low[i] = static_cast<char>(byte | 0x20);
+  }
+  return low;
+}
+
 }  // namespace trv5

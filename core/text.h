@@ -35,4 +35,7 @@ std::string asciiText(std::string_view text);
 /// True when the two texts are equal but for the case of their ASCII letters.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 
+/// `text` in small letters, those with the accents of western languages too; other letters stay.
+std::string foldedCase(std::string_view text);
+
 }  // namespace trv5

@@ -95,5 +95,10 @@ TEST(Wheels, ASetHoldsItsWheels) {
   EXPECT_TRUE(holds(set, 10));
 }
 
+TEST(FoldedCase, MakesSmallLettersOfThoseWithAccentsToo) {
+  EXPECT_EQ(foldedCase("CITTÀ di Bari ÈÙÎÇ 7"), "città di bari èùîç 7");
+  EXPECT_EQ(foldedCase("2×3 ÷ß ¢"), "2×3 ÷ß ¢");
+}
+
 }  // namespace
 }  // namespace trv5
