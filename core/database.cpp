@@ -318,7 +318,7 @@ bool Database::hasTable(std::string_view table) const {
   return find.bind(1, table).step();
 }
 
-void Database::requireTable(std::string_view table, std::initializer_list<std::string_view> columns) const {
+void Database::requireTable(std::string_view table, const std::vector<std::string_view>& columns) const {
   const auto refuse = [&](const std::string& why) { throw errorOf("usato", m_path, Reason::WrongShape, why); };
   if (!hasTable(table)) refuse(fmt::format("manca la tabella {}", table));
   Statement fields = prepare("SELECT name, hidden FROM pragma_table_xinfo(?)");

@@ -3,10 +3,10 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/errors.h"
 
@@ -121,7 +121,7 @@ class Database {
   bool hasField(std::string_view table, std::string_view field) const;
 
   /// Throws DatabaseError (WrongShape) unless the real table is there with these columns, and all its columns are real.
-  void requireTable(std::string_view table, std::initializer_list<std::string_view> columns) const;
+  void requireTable(std::string_view table, const std::vector<std::string_view>& columns) const;
   /// Reads the whole file and looks whether its pages, rows and indices agree. Throws DatabaseError (Damaged) when they
   /// don't.
   void checkIntegrity() const;
