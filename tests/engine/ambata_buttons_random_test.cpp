@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/text.h"
-#include "engine/random_method.h"
+#include "support/random_method.h"
 #include "support/plain_search.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "engine/candidate_check.h"
-#include "engine/random_method.h"
+#include "support/random_method.h"
 #include "method/formula.h"
 #include "support/plain_verification.h"
 #include "support/random_runs.h"

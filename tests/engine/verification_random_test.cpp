@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/random_method.h"
+#include "support/random_method.h"
 #include "support/plain_verification.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"

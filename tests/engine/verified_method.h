@@ -3,7 +3,7 @@
 #include <memory>
 #include <random>
 
-#include "engine/random_method.h"
+#include "support/random_method.h"
 
 namespace trv5 {
 

@@ -1,4 +1,4 @@
-#include "engine/random_method.h"
+#include "support/random_method.h"
 
 #include <array>
 #include <string>
