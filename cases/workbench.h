@@ -13,6 +13,7 @@
 #include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/controls.h"
+#include "core/database.h"
 #include "method/detection.h"
 #include "method/table.h"
 
@@ -43,6 +44,10 @@ struct WorkbenchHooks {
   std::function<void()> extractTriples = [] {};
   /// ELENCO of the saved configurations.
   std::function<void()> listConfigurations = [] {};
+  /// The main database, where the configurations are kept. Throws UserError while it isn't open.
+  std::function<Database&()> mainDatabase = []() -> Database& {
+    throw UserError("Il database principale non è aperto.");
+  };
   /// The draws of a case in the mini list, the numbers that made it marked.
   std::function<void(const FoundElement& first, const std::optional<FoundElement>& second)> showDraws =
       [](const FoundElement&, const std::optional<FoundElement>&) {};
@@ -129,7 +134,7 @@ class Workbench : public Form, public WorkbenchState {
   Check Ch_coperture{*this, "Ch_coperture", "Coperture"};
   Combo ComboDelta{*this, "ComboDelta"};
   GridControl FgRit{*this, "FgRit", "N°  |BA|CA|FI|GE|MI|NA|PA|RO|TO|VE|NZ|Sel"};
-  Text Txt_Denominazione{*this, "Txt_Denominazione"};
+  Text Txt_Denominazione{*this, "Txt_Denominazione"}, Txt_FiltroConfig{*this, "Txt_FiltroConfig"};
   GridControl FgPir1{*this, "FgPir1", "|Cod|Denominazione|Estraz"};
   GridControl Fg_Stat{*this, "Fg_Stat", 11, 2}, Fg_Graf{*this, "Fg_Graf", 3, 3};
 

@@ -2,6 +2,7 @@
 
 #include "cases/case_list.h"
 #include "cases/selections.h"
+#include "configs/configurations.h"
 #include "desk/workbench_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
@@ -35,6 +36,8 @@ void connectLists(Workbench& w) {
     for (const auto& [code, button] : w.Cmd_LaSorte)
       if (button->enabled()) button->press();
   });
+  w.FgPir1.onCellDoubleClick([&w](int row, int) { RicaricaConfigurazione(w, row); });
+  w.Txt_FiltroConfig.onEvent([&w] { FiltraConfigurazioni(w); });
 }
 
 }  // namespace
@@ -44,6 +47,11 @@ void equipWorkbench(Workbench& w) {
   fillHooks(w);
   connectSelections(w);
   connectLists(w);
+}
+
+void connectDatabase(Workbench& w, const Program& program) {
+  w.hooks.mainDatabase = [&program]() -> Database& { return program.mainDatabase(); };
+  w.hooks.listConfigurations = [&w] { w.button("Cmd_Elenco").press(); };
 }
 
 }  // namespace trv5

@@ -4,6 +4,7 @@
 #include "cases/case_map.h"
 #include "cases/case_search.h"
 #include "cases/selections.h"
+#include "configs/configurations.h"
 #include "core/numbers.h"
 #include "engine/ambata_buttons.h"
 #include "engine/candidate_check.h"
@@ -216,9 +217,9 @@ constexpr WorkbenchButton kInformazioni[] = {
 };
 
 constexpr WorkbenchButton kConfigurazioni[] = {
-    {"Command4", "Salva configurazione", "", nullptr},
-    {"Cmd_Elenco", "ELENCO", "", nullptr},
-    {"Command54", "Cancella selezionata", "", nullptr},
+    {"Command4", "Salva configurazione", "Salva tutto il metodo con la sua denominazione", run<SalvaConfigurazione>},
+    {"Cmd_Elenco", "ELENCO", "Legge di nuovo l'elenco delle configurazioni", run<ElencaConfigurazioni>},
+    {"Command54", "Cancella selezionata", "Cancella la configurazione selezionata", run<CancellaConfigurazione>},
 };
 
 constexpr WorkbenchButton kCalledByOtherButtonsAlone[] = {

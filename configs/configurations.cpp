@@ -1,0 +1,114 @@
+#include "configs/configurations.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <exception>
+
+#include "configs/configuration_store.h"
+#include "configs/workbench_configuration.h"
+#include "core/errors.h"
+#include "core/text.h"
+#include "engine/colouring.h"
+
+namespace trv5 {
+namespace {
+
+constexpr int kKeyColumn = 1, kNameColumn = 2, kFirstHiddenColumn = 4;
+
+void reload(Workbench& w, std::int64_t key) {
+  w.button("Command41").press();
+  const Database& database = w.hooks.mainDatabase();
+  const auto head = loadHead(database, key, configurationFieldNames());
+  if (!head) throw UserError("La configurazione non c'è più.");
+  layFields(w, *head, ReloadStep::Values);
+  layFields(w, *head, ReloadStep::Marks);
+  layFields(w, *head, ReloadStep::RowCounts);
+  const QueryRows rows = loadRows(database, key);
+  bindGrid(w.FgDett, rows);
+  layRows(w, rowsOf(rows));
+  Colora_fg00(w);
+  for (const Table table : {Table::Ambate, Table::Ambi, Table::Terni}) coloraFormule(w.formulas(table));
+  w.button("Command44").press();
+  constexpr std::pair<Table, const char*> verifications[] = {{Table::Ambate, "Command29"},
+                                                             {Table::Ambi, "Command34"},
+                                                             {Table::Terni, "Command48"},
+                                                             {Table::Lunghetta, "Command51"}};
+  for (const auto& [table, verifyAll] : verifications)
+    if (w.formulas(table).hasData()) w.button(verifyAll).press();
+}
+
+}  // namespace
+
+void SalvaConfigurazione(Workbench& w) {
+  try {
+    saveConfiguration(w.hooks.mainDatabase(), captureConfiguration(w));
+  } catch (const std::exception& error) {
+    // One text for all that can happen.
+    w.shell().message({.text = "Attenzione, probabilmente è stato inserita una denominazione già presente. Modificare "
+                               "la descrizione e riprovare.",
+                       .icon = Icon::Critical,
+                       .reason = error.what()});
+    return;
+  }
+  w.shell().message(
+      {.text = "La configurazione è stata salvata. Ricaricare l'elenco.", .title = "Salvataggio configurazione"});
+}
+
+void ElencaConfigurazioni(Workbench& w) {
+  try {
+    bindGrid(w.FgPir1, listConfigurations(w.hooks.mainDatabase()));
+  } catch (const std::exception& error) {
+    w.shell().message({.text = "Attenzione, probabilmente non esiste il campo DDS, provvedere ad inserirlo, ed "
+                               "eventualmente azzerare il campo DDS",
+                       .reason = error.what()});
+    w.shell().show("FunzioniAggiuntive");
+    return;
+  }
+  for (int column = kFirstHiddenColumn; column < w.FgPir1.columns(); ++column) w.FgPir1.setColumnHidden(column);
+  w.FgPir1.setEmptyText("Nessuna configurazione salvata");
+  FiltraConfigurazioni(w);
+}
+
+void CancellaConfigurazione(Workbench& w) {
+  const int row = w.FgPir1.current();
+  if (row < 1) return w.shell().status("Scegli prima una configurazione dell'elenco");
+  const std::int64_t key = chiaveDellaRiga(w, row);
+  constexpr const char* kTitle = "Cancellazione record";
+  if (!w.shell().confirm({.text = fmt::format("Concellare la riga: {} ?", key), .title = kTitle})) return;
+  if (eraseConfiguration(w.hooks.mainDatabase(), key))
+    w.shell().message({.text = "Record eliminato.", .title = kTitle});
+  w.button("Cmd_Elenco").press();
+}
+
+void RicaricaConfigurazione(Workbench& w, int row) {
+  if (row < 1 || row >= w.FgPir1.rows()) return;
+  if (ricaricaChiave(w, chiaveDellaRiga(w, row)))
+    w.shell().status(fmt::format("Configurazione ricaricata: {}", w.Txt_Denominazione.text()));
+}
+
+bool ricaricaChiave(Workbench& w, std::int64_t key) {
+  try {
+    reload(w, key);
+    return true;
+  } catch (const std::exception& error) {
+    w.shell().message({.text = "Errore imprevisto. ", .title = "Anomalia nel database", .reason = error.what()});
+    return false;
+  }
+}
+
+std::int64_t chiaveDellaRiga(const Workbench& w, int row) {
+  const std::string& text = w.FgPir1.text(row, kKeyColumn);
+  std::int64_t key = 0;
+  std::from_chars(text.data(), text.data() + text.size(), key);
+  return key;
+}
+
+void FiltraConfigurazioni(Workbench& w) {
+  const std::string wanted = foldedCase(w.Txt_FiltroConfig.text());
+  const Grid::Batch batch(w.FgPir1);
+  for (int row = 1; row < w.FgPir1.rows(); ++row)
+    w.FgPir1.setRowHidden(row, foldedCase(w.FgPir1.text(row, kNameColumn)).find(wanted) == std::string::npos);
+}
+
+}  // namespace trv5

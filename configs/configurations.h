@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+#include "cases/workbench.h"
+
+namespace trv5 {
+
+/// "Salva configurazione": the workbench under the name of `Txt_Denominazione`. The list isn't read again.
+void SalvaConfigurazione(Workbench& w);
+
+/// "ELENCO": all configurations in `FgPir1`; no row is current. A database that lacks the field DDS opens
+/// `FunzioniAggiuntive`.
+void ElencaConfigurazioni(Workbench& w);
+
+/// "Cancella selezionata": after a question, the configuration of the current row of `FgPir1`.
+void CancellaConfigurazione(Workbench& w);
+
+/// Double click on `FgPir1`: the workbench as the configuration of that row says, its cases and verifications worked
+/// out anew on the archive as it stands. An error leaves it as far as it got.
+void RicaricaConfigurazione(Workbench& w, int row);
+
+/// The same for a key, with the reload's message where it fails; false then.
+bool ricaricaChiave(Workbench& w, std::int64_t key);
+
+/// The key in column 1 of a row of `FgPir1`; 0 where there is none.
+std::int64_t chiaveDellaRiga(const Workbench& w, int row);
+
+/// Hides the rows of `FgPir1` whose name doesn't hold the text of `Txt_FiltroConfig`, in whatever letters' case.
+void FiltraConfigurazioni(Workbench& w);
+
+}  // namespace trv5
