@@ -1,6 +1,8 @@
 #include "screens/shell/registry.h"
 
 #include "cases/selections.h"
+#include "configs/dds_field.h"
+#include "configs/import_export.h"
 #include "core/container.h"
 #include "core/inizio.h"
 #include "core/verifica_archivio.h"
@@ -8,7 +10,9 @@
 #include "screens/ElencoRiscontri.h"
 #include "screens/Estrazioni_minielenco.h"
 #include "screens/EvoluzioneGrafica.h"
+#include "screens/FunzioniAggiuntive.h"
 #include "screens/INIZIO.h"
+#include "screens/ImportExport.h"
 #include "screens/Speciale.h"
 #include "screens/VerificaArchivio.h"
 #include "screens/shell/Container.h"
@@ -44,6 +48,7 @@ ScreenEntry workbench() {
                           [](Program& program) {
                             auto w = std::make_unique<Workbench>(program.archive, program.shell);
                             equipWorkbench(*w);
+                            connectDatabase(*w, program);
                             return w;
                           },
                       .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
@@ -63,6 +68,9 @@ std::vector<ScreenEntry> allScreens() {
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
+      loaded<ImportExport>(entry<ImportExport, ImportExportScreen>("ImportExport", Place::Framed, {760, 560})),
+      loaded<FunzioniAggiuntive>(
+          entry<FunzioniAggiuntive, FunzioniAggiuntiveScreen>("FunzioniAggiuntive", Place::Framed, {520, 320})),
       loaded<VerificaArchivio>(
           entry<VerificaArchivio, VerificaArchivioScreen>("VerificaArchivio", Place::Framed, {1200, 420})),
   };

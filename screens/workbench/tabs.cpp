@@ -1,5 +1,6 @@
 #include "screens/workbench/tabs.h"
 
+#include "screens/kit/icons.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/scroll_column.h"
 #include "screens/kit/theme.h"
@@ -133,15 +134,24 @@ QWidget* configurationsTab(Workbench& w) {
   Kit kit(w);
   QLineEdit* const name = kit.edit("Txt_Denominazione", {}, true);
   name->setAccessibleName(QStringLiteral("Denominazione"));
+  QLabel* const hint = Kit::text(
+      QStringLiteral(
+          "Doppio clic o Invio su una riga dell'elenco ricarica il metodo e lo verifica sull'archivio di oggi."),
+      Type::Hint);
+  hint->setWordWrap(true);
+  QLineEdit* const filter = kit.edit("Txt_FiltroConfig", QString(26, u'n'), true);
+  filter->setPlaceholderText(QStringLiteral("Filtra per denominazione"));
+  filter->setAccessibleName(filter->placeholderText());
+  filter->addAction(icon(QStringLiteral("filter")), QLineEdit::LeadingPosition);
   QWidget* const save = pageOf(
       {Kit::text(QStringLiteral("&Denominazione (Max 100 caratteri)"), Type::Hint, name), name,
-       row({kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"}), Piece::gap()}), Piece::gap()});
+       row({Piece::gap(), kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"})}), hint, Piece::gap()});
   GridView* const saved =
       kit.grid("FgPir1", {.name = QStringLiteral("Configurazioni salvate"),
                           .samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});
   return holding(row({narrow(save, 47),
                       Piece::space(),
-                      {column({row({kit.button("Cmd_Elenco"), Piece::gap(),
+                      {column({row({kit.button("Cmd_Elenco", {.icon = "reload"}), filter, Piece::gap(),
                                     kit.button("Command54", {.kind = ButtonKind::Danger, .icon = "trash"})}),
                                {saved, 1}}),
                        1}}));
