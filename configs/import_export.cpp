@@ -69,7 +69,12 @@ ImportExport::ImportExport(Program& program)
 }
 
 void ImportExport::load() {
-  Elenca();
+  try {
+    Elenca();
+  } catch (const UserError& error) {
+    // The screen opens all the same: after the addition of a field the main database is closed.
+    shell().message({.text = error.what(), .icon = Icon::Critical, .reason = error.details()});
+  }
 }
 
 void ImportExport::Elenca() {
