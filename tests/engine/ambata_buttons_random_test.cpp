@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/text.h"
-#include "support/random_method.h"
 #include "support/plain_search.h"
+#include "support/random_method.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
 #include "support/workbench_snapshot.h"

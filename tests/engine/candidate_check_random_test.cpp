@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "engine/candidate_check.h"
-#include "support/random_method.h"
 #include "method/formula.h"
 #include "support/plain_verification.h"
+#include "support/random_method.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
 

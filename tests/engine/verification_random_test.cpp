@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "support/random_method.h"
 #include "support/plain_verification.h"
+#include "support/random_method.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
 
