@@ -38,6 +38,13 @@ void reload(Workbench& w, std::int64_t key) {
     if (w.formulas(table).hasData()) w.button(verifyAll).press();
 }
 
+// The row of that name, without regard to case; 0 for none.
+int rowNamed(const Workbench& w, const std::string& name) {
+  for (int row = 1; row < w.FgPir1.rows(); ++row)
+    if (foldedCase(w.FgPir1.text(row, kNameColumn)) == foldedCase(name)) return row;
+  return 0;
+}
+
 }  // namespace
 
 void SalvaConfigurazione(Workbench& w) {
@@ -68,6 +75,10 @@ void ElencaConfigurazioni(Workbench& w) {
   for (int column = kFirstHiddenColumn; column < w.FgPir1.columns(); ++column) w.FgPir1.setColumnHidden(column);
   w.FgPir1.setEmptyText("Nessuna configurazione salvata");
   FiltraConfigurazioni(w);
+  // The one saved or reloaded last is easy to find, though no row is current.
+  if (const int row = rowNamed(w, w.Txt_Denominazione.text())) w.FgPir1.showRow(row);
+  if (const int count = w.FgPir1.dataRows(); count > 0)
+    w.shell().status(fmt::format("ELENCO: {} configurazion{}", count, count == 1 ? "e" : "i"));
 }
 
 void CancellaConfigurazione(Workbench& w) {

@@ -256,6 +256,12 @@ void Grid::fitColumns() {
   notify({});
 }
 
+void Grid::showRow(int row) {
+  ++m_showsAsked;
+  m_shownRow = row;
+  notify({});
+}
+
 void Grid::setCellSize(int size) {
   m_cellSize = size;
   notify({});

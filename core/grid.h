@@ -113,6 +113,10 @@ class Grid {
   void fitColumns();
   /// How often that was asked.
   int fitsAsked() const { return m_fitsAsked; }
+  /// Asks the view to bring a row into sight, once; the current row stays.
+  void showRow(int row);
+  /// How often that was asked, and for which row the last time.
+  std::pair<int, int> showsAsked() const { return {m_showsAsked, m_shownRow}; }
   /// Height of the rows and width of the columns as told in the grid's own unit, 0 where none is told.
   int cellSize() const { return m_cellSize; }
   void setCellSize(int size);
@@ -154,7 +158,7 @@ class Grid {
   std::map<std::pair<int, int>, Bar> m_bars;
   std::map<int, int> m_widths;
   int m_cellSize = 0;
-  int m_fitsAsked = 0;  // of the view: no part of the value
+  int m_fitsAsked = 0, m_showsAsked = 0, m_shownRow = 0;  // of the view: no part of the value
   std::map<int, std::vector<std::string>> m_choices;
 
   std::function<void(const GridChange&)> m_listener;

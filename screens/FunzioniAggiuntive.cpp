@@ -10,7 +10,7 @@ FunzioniAggiuntiveScreen::FunzioniAggiuntiveScreen(FunzioniAggiuntive& form) : S
   auto* const layout = new QVBoxLayout(this);
   const int unit = Theme::current().unit();
   layout->setContentsMargins(unit, unit, unit, unit);
-  layout->addWidget(kit.button("Command3", {.icon = "mark", .mnemonic = 'V'}));
+  layout->addWidget(kit.button("Command3", {.icon = "search", .mnemonic = 'V'}));
   layout->addWidget(kit.button("Command1", {.icon = "extra", .mnemonic = 'G'}));
   layout->addWidget(kit.button("Command2", {.icon = "broom", .mnemonic = 'Z'}));
   QListWidget* const log = kit.lines("List1", 5);

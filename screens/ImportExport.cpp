@@ -37,7 +37,7 @@ QWidget* exportTab(Kit& kit) {
                                            .samples = {{}, QStringLiteral("8888"), QString(40, u'n')}});
   return padded(
       {row({kit.button("Command1", {.icon = "reload", .mnemonic = 'L'}), Piece::gap()}),
-       {saved, 1},
+       {saved, 2},
        row({kit.button("Command2", {.icon = "folder", .mnemonic = 'S'}), Piece::gap()}),
        Kit::text(kFileCaption, Type::Hint),
        pathOf(kit, "Label1"),

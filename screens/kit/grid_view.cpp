@@ -126,6 +126,10 @@ void GridView::followGrid() {
   layoutRows();
   if (m_look.atEnd && m_lastRows != rows) scrollToBottom();
   m_lastRows = rows;
+  if (const auto [asked, row] = m_grid.showsAsked(); m_showsAsked != asked) {
+    m_showsAsked = asked;
+    scrollTo(m_model->index(m_model->modelRow(row), 1), PositionAtCenter);
+  }
   viewport()->update();
 }
 

@@ -142,14 +142,14 @@ QWidget* configurationsTab(Workbench& w) {
   QLineEdit* const filter = kit.edit("Txt_FiltroConfig", QString(26, u'n'), true);
   filter->setPlaceholderText(QStringLiteral("Filtra per denominazione"));
   filter->setAccessibleName(filter->placeholderText());
-  filter->addAction(icon(QStringLiteral("filter")), QLineEdit::LeadingPosition);
+  filter->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
   QWidget* const save = pageOf(
       {Kit::text(QStringLiteral("&Denominazione (Max 100 caratteri)"), Type::Hint, name), name,
        row({Piece::gap(), kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"})}), hint, Piece::gap()});
   GridView* const saved =
       kit.grid("FgPir1", {.name = QStringLiteral("Configurazioni salvate"),
                           .samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});
-  return holding(row({narrow(save, 47),
+  return holding(row({narrow(save, 58),
                       Piece::space(),
                       {column({row({kit.button("Cmd_Elenco", {.icon = "reload"}), filter, Piece::gap(),
                                     kit.button("Command54", {.kind = ButtonKind::Danger, .icon = "trash"})}),

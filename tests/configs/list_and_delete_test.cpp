@@ -38,6 +38,18 @@ TEST_F(SavedList, IsInTheOrderOfTheNamesWithoutACurrentRow) {
   EXPECT_EQ(w.FgPir1.current(), -1);
 }
 
+TEST_F(SavedList, BringsTheOneJustSavedIntoSight) {
+  for (const char* name : {"zeta", "Bari", "ambo", "Zara"}) world.save(name);
+  w.Txt_Denominazione.set("BARI");
+  const int before = w.FgPir1.showsAsked().first;
+  world.press("Cmd_Elenco");
+  EXPECT_EQ(w.FgPir1.showsAsked(), std::pair(before + 1, world.rowOf("Bari")));
+  EXPECT_EQ(world.shell.statusTexts.back(), "ELENCO: 4 configurazioni");
+  w.Txt_Denominazione.set("mai salvata");
+  world.press("Cmd_Elenco");
+  EXPECT_EQ(w.FgPir1.showsAsked().first, before + 1);
+}
+
 TEST_F(SavedList, OfADatabaseWithoutTheFieldSaysSoAndOpensTheScreenThatAddsIt) {
   world.change("ALTER TABLE Elenco_Memo DROP COLUMN DDS");
   world.press("Cmd_Elenco");
