@@ -179,6 +179,21 @@ TEST_F(SummaryOfTwoCases, IgnoresAKindWhoseGridHasItsHeadingAlone) {
   EXPECT_EQ(w.Fg_Stat.text(4, 1), "2");
 }
 
+TEST_F(SummaryOfTwoCases, TakesAnEmptyTickedKindBesideFullOnesAsNotTicked) {
+  hit(w.FgZ2, 1, 2, "CA");
+  hit(w.FgZ3, 1, 2, "BA");
+  miss(w.FgZ2, 2);
+  for (const bool ticked : {true, false}) {
+    w.ChA.set(ticked);
+    world.press("Command86");
+    EXPECT_EQ(rows(), "1:2@2CA 1:3@2BA 2: ");
+    EXPECT_EQ(w.Fg_Stat.text(2, 1), "1");
+    EXPECT_EQ(w.Fg_Stat.text(3, 1), "2");
+    EXPECT_EQ(w.Fg_Stat.text(4, 1), "1");
+    EXPECT_EQ(w.EsitiPerSorte, (std::array<int, 6>{0, 0, 1, 1, 0, 0}));
+  }
+}
+
 TEST_F(SummaryOfTwoCases, GivesACaseWithAnAmboAloneNoRowWithoutHit) {
   miss(w.FgZ1, 1);
   miss(w.FgZ1, 2);
