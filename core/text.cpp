@@ -39,6 +39,10 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
+std::string counted(int count, std::string_view one, std::string_view many) {
+  return std::to_string(count).append(" ").append(count == 1 ? one : many);
+}
+
 std::vector<std::string> split(std::string_view text, char separator) {
   std::vector<std::string> pieces;
   for (std::size_t start = 0;;) {

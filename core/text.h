@@ -16,6 +16,9 @@ std::string twoDigits(int value);
 /// `text` without blanks at both ends.
 std::string_view trimmed(std::string_view text);
 
+/// A count with its noun: "1 riga", "51 righe".
+std::string counted(int count, std::string_view one, std::string_view many);
+
 /// The pieces of `text` between separators; an empty text has one empty piece.
 std::vector<std::string> split(std::string_view text, char separator);
 

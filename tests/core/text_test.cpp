@@ -100,5 +100,11 @@ TEST(FoldedCase, MakesSmallLettersOfThoseWithAccentsToo) {
   EXPECT_EQ(foldedCase("2×3 ÷ß ¢"), "2×3 ÷ß ¢");
 }
 
+TEST(Text, CountsWithANounThatAgrees) {
+  EXPECT_EQ(counted(1, "riga", "righe"), "1 riga");
+  EXPECT_EQ(counted(0, "riga", "righe"), "0 righe");
+  EXPECT_EQ(counted(51, "riga", "righe"), "51 righe");
+}
+
 }  // namespace
 }  // namespace trv5
