@@ -4,6 +4,9 @@
 
 namespace trv5 {
 
+/// The change of `hs1` once more.
+void AggiornaEstrazioneRiferimento(Workbench& w);
+
 /// Click on a case: the reference draw moves to it.
 void MostraCaso(Workbench& w, int row);
 

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "cases/case_rows.h"
+#include "cases/status_texts.h"
 #include "core/text.h"
 
 namespace trv5 {
@@ -51,7 +52,10 @@ void MostraMappaCasi(Workbench& w) {
     w.shell().message({.text = "Non si possono considerare più di 1000 estrazuioni"});
     return;
   }
-  if (!w.FgEv.hasData()) return;
+  if (!w.FgEv.hasData()) {
+    w.shell().status(kNoCases);
+    return;
+  }
   GridControl& map = w.shell().show("EvoluzioneGrafica").get<GridControl>("Fg1");
   if (const std::optional<int> size = mapCellSize(span)) map.setCellSize(*size);
   paintMap(w, map);

@@ -100,7 +100,7 @@ void RicavaElencoEstrazioni(Workbench& w) {
   w.FgEv.setEmptyText("Nessun caso per questa situazione: cambia il valore o le posizioni");
   w.FgF.setEmptyText(w.FgEv.hasData() ? "Nessuna ricerca: premi 1N 1R, 2N 1R, 3N 1R o 2N 2R"
                                       : "Nessuna ricerca: prima ricava l'elenco delle estrazioni");
-  w.shell().status("Elenco estrazioni: " + std::to_string(w.FgEv.dataRows()) + " casi");
+  w.shell().status("Elenco estrazioni: " + counted(w.FgEv.dataRows(), "caso", "casi"));
 }
 
 }  // namespace trv5

@@ -136,6 +136,27 @@ void tellEmptyGrids(Workbench& w) {
   w.FgPir1.setEmptyText("Premi ELENCO");
 }
 
+void emptyResults(Workbench& w) {
+  for (Grid* grid : {&w.FgF.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid(), &w.Fg00.grid(), &w.FgZ0.grid(),
+                     &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
+                     &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})
+    grid->cutToHeading();
+  w.ComboFix.select(0);
+  w.Ch_analisi2ruote.set(false);
+  w.Label5.setText("");
+  w.FgSSS.clearTexts();
+  for (int row = 0; row < w.Fg_Stat.rows(); ++row) w.Fg_Stat.setText(row, 1, "");
+  for (int row = 0; row < w.Fg_Graf.rows(); ++row) {
+    w.Fg_Graf.setText(row, 1, "");
+    w.Fg_Graf.setText(row, 2, "");
+  }
+  w.Fg_Graf.clearBars();
+}
+
+void takeMonthly(Workbench& w) {
+  w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento));
+}
+
 }  // namespace
 
 void ApreBanco(Workbench& w) {
@@ -143,7 +164,7 @@ void ApreBanco(Workbench& w) {
   tellEmptyGrids(w);
   fillStatisticsCaptions(w);
   fill(w.ComboFix, withFirst("", numbers(1, kMostNumber)), 0);
-  NuovaConfigurazioneReset(w);
+  emptyResults(w);
   w.SSTab3.set(0);
   CambiaTabPrevisioni(w);
   w.hooks.extractTriples();
@@ -156,7 +177,7 @@ void ApreBanco(Workbench& w) {
   w.hs1.setMaximum(w.archive.UltimaEstrazione());
   w.hs1.set(w.archive.UltimaEstrazione());
   CambiaEstrazioneRiferimento(w);  // an archive of one draw moves no scroll bar
-  SettaEstrazioneMensile(w);
+  takeMonthly(w);
   w.hooks.listConfigurations();
 }
 
@@ -186,29 +207,18 @@ void CambiaTabPrevisioni(Workbench& w) {
 }
 
 void NuovaConfigurazioneReset(Workbench& w) {
-  for (Grid* grid : {&w.FgF.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid(), &w.Fg00.grid(), &w.FgZ0.grid(),
-                     &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
-                     &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})
-    grid->cutToHeading();
-  w.ComboFix.select(0);
-  w.Ch_analisi2ruote.set(false);
-  w.Label5.setText("");
-  w.FgSSS.clearTexts();
-  for (int row = 0; row < w.Fg_Stat.rows(); ++row) w.Fg_Stat.setText(row, 1, "");
-  for (int row = 0; row < w.Fg_Graf.rows(); ++row) {
-    w.Fg_Graf.setText(row, 1, "");
-    w.Fg_Graf.setText(row, 2, "");
-  }
-  w.Fg_Graf.clearBars();
+  emptyResults(w);
+  w.shell().status("Nuova configurazione: elenchi e tabelle vuoti");
 }
 
 void RiportaNumeri(Workbench& w) {
   std::string text;
-  int k = 0;
+  int k = 0, chosen = 0;
   for (int row = 0; row < w.FgNu.rows(); ++row) {
     for (int column = 0; column < w.FgNu.columns(); ++column) {
       ++k;
       if (w.FgNu.back(row, column) == Ciano) {
+        ++chosen;
         if (!text.empty()) text += '-';
         text += w.FgNu.text(row, column);
       }
@@ -217,21 +227,30 @@ void RiportaNumeri(Workbench& w) {
   }
   w.TxtNumeri.set(text);
   w.ComboFiltro.select(1);
+  w.shell().status(chosen > 0 ? "Numeri riportati: " + std::to_string(chosen) : "Nessun numero selezionato");
 }
 
 void SelezionaPerProprieta(Workbench& w, const NumberTable& property) {
   paintAll(w.FgNu, kWhite);
   const Grid::Batch batch(w.FgNu);
-  for (int n = 1; n <= kMostNumber; ++n)
-    if (property[static_cast<std::size_t>(n)] == w.ComboValF.index()) w.FgNu.setBack((n - 1) / 10, (n - 1) % 10, Ciano);
+  int chosen = 0;
+  for (int n = 1; n <= kMostNumber; ++n) {
+    if (property[static_cast<std::size_t>(n)] != w.ComboValF.index()) continue;
+    w.FgNu.setBack((n - 1) / 10, (n - 1) % 10, Ciano);
+    ++chosen;
+  }
+  w.shell().status(chosen > 0 ? "Numeri selezionati: " + std::to_string(chosen)
+                              : "Nessun numero ha valore " + w.ComboValF.text());
 }
 
 void DeselezionaNumeri(Workbench& w) {
   paintAll(w.FgNu, kWhite);
+  w.shell().status("Nessun numero selezionato");
 }
 
 void SettaEstrazioneMensile(Workbench& w) {
-  w.ComboPar.select(w.archive.ProgMese(w.EstrazioneRiferimento));
+  takeMonthly(w);
+  w.shell().status("Mensile: " + w.ComboPar.text() + ", come l'estrazione di riferimento");
 }
 
 void MostraAiuto(Workbench& w) {

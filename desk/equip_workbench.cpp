@@ -21,7 +21,7 @@ void showInMiniList(Workbench& w, const FoundElement& first, const std::optional
 }
 
 void fillHooks(Workbench& w) {
-  w.hooks.extractTriples = [&w] { EstraeTerzine(w); };
+  w.hooks.extractTriples = [&w] { ammetteTerzine(w); };
   w.hooks.showDraws = [&w](const FoundElement& first, const std::optional<FoundElement>& second) {
     showInMiniList(w, first, second);
   };

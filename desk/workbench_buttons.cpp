@@ -42,7 +42,7 @@ constexpr const char* kCounts = "Riverifica le righe della ricerca";
 // Name of the control, caption, tooltip, operation. The first button of a tab is its main one.
 
 constexpr WorkbenchButton kReferenceBar[] = {
-    {"Command42_0", "", "Aggiorna l'estrazione di riferimento", run<CambiaEstrazioneRiferimento>},
+    {"Command42_0", "", "Aggiorna l'estrazione di riferimento", run<AggiornaEstrazioneRiferimento>},
     {"Command42_1", "Ricera per data", "Ricera per data", run<RicercaPerData>},
     {"Command42_2", "Ricerca per numero estrazione", "Ricerca per numero estrazione", run<RicercaPerIndice>},
     {"Command42_3", "Vai all'ultima estrazione", "Vai all'ultima estrazione", run<VaiUltimaEstrazione>},

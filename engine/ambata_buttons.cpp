@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cases/formula_rows.h"
+#include "cases/status_texts.h"
 #include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
@@ -44,7 +45,10 @@ const AmbataButton& ambataSearch(std::string_view name) {
 
 void CercaAmbate(Workbench& w, const AmbataButton& button) {
   using namespace formula_column;
-  if (!w.FgEv.hasData()) return;
+  if (!w.FgEv.hasData()) {
+    w.shell().status(kNoCases);
+    return;
+  }
   startLog(w);
   SettaggioFix(w);
   w.Elenco = w.ComboEle.number();
@@ -85,7 +89,7 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
   ColoraFgF(w);
   if (!ranking.empty()) chooseFirstCandidate(w);
   addTime(w);
-  w.shell().status("Ricerca: " + std::to_string(ranking.size()) + " formule");
+  w.shell().status("Ricerca: " + counted(static_cast<int>(ranking.size()), "formula", "formule"));
 }
 
 }  // namespace trv5

@@ -185,10 +185,14 @@ class Run {
 }  // namespace
 
 void VerificaCandidati(Workbench& w, Table table) {
-  if (!w.FgF.hasData()) return;
+  if (!w.FgF.hasData()) {
+    w.shell().status("Nessuna ricerca da riverificare");
+    return;
+  }
   const Grid::Batch candidates(w.FgF), cases(w.FgEv), formulas(w.formulas(table)), hits(w.hits(table)), numbers(w.Fg15),
       totals(w.FgSSS), panel(w.Fg_Stat), chart(w.Fg_Graf);
   Run(w, table).run();
+  w.shell().status("CC: " + counted(w.FgF.dataRows(), "riga riverificata", "righe riverificate"));
 }
 
 }  // namespace trv5

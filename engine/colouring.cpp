@@ -2,6 +2,7 @@
 
 #include "cases/formula_rows.h"
 #include "cases/hit_rows.h"
+#include "core/text.h"
 
 namespace trv5 {
 namespace {
@@ -33,6 +34,8 @@ void coloraFormule(Grid& formulas) {
 
 void ColoraFgF(Workbench& w) {
   colourFormulas(w.FgF, GialloMedio);
+  w.shell().status(w.FgF.hasData() ? "Ricerca colorata: " + counted(w.FgF.dataRows(), "riga", "righe")
+                                   : "Nessuna ricerca da colorare");
 }
 
 void Colora_fg00(Workbench& w) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "cases/formula_rows.h"
+#include "core/text.h"
 #include "engine/candidate_check.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
@@ -82,7 +83,10 @@ void closeCompanionSearch(Workbench& w, Table table) {
   ColoraFgF(w);
   chooseFirstCandidate(w);
   addTime(w);
-  w.shell().status("Ricerca: " + std::to_string(w.FgF.dataRows()) + " righe verificate");
+  // An empty grid of hits is searched without a box: the blank list has its reason all the same.
+  w.shell().status((w.*hitSource(table).hits).hasData()
+                       ? "Ricerca: " + counted(w.FgF.dataRows(), "riga verificata", "righe verificate")
+                       : "Ricerca senza esiti: elabora prima la lunghetta con >>");
 }
 
 }  // namespace trv5

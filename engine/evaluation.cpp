@@ -12,6 +12,11 @@ void SettaggioFix(Workbench& w) {
 }
 
 void EstraeTerzine(Workbench& w) {
+  ammetteTerzine(w);
+  w.shell().status("Terzine di posizioni preparate: 35");
+}
+
+void ammetteTerzine(Workbench& w) {
   w.TerzineAmmesse = {};
   for (std::size_t p1 = 1; p1 <= kPositions; ++p1)
     for (std::size_t p2 = p1; p2 <= kPositions; ++p2)

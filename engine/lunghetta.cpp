@@ -3,6 +3,8 @@
 #include "cases/case_rows.h"
 #include "cases/hit_rows.h"
 #include "cases/method_codec.h"
+#include "cases/status_texts.h"
+#include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/statistics.h"
 #include "engine/verification.h"
@@ -11,7 +13,10 @@
 namespace trv5 {
 
 void Cmd_Elabora100(Workbench& w) {
-  if (!w.Fg00.hasData()) return;
+  if (!w.Fg00.hasData()) {
+    w.shell().status(noFormulas(Table::Lunghetta));
+    return;
+  }
   if (w.Fg00.dataRows() > traitsOf(Table::Lunghetta).mostFormulas) {
     w.shell().message({.text = "Attenzione si possono elaborare al massimo 10 numeri."});
     return;
@@ -23,7 +28,9 @@ void Cmd_Elabora100(Workbench& w) {
   w.Sorte = 1;  // a wheel with one number in play has written a row; the sorte asked for decides what marks a case
   const Grid::Batch hitsBatch(w.FgZ100), casesBatch(w.FgEv);
   w.FgZ100.cutToHeading();
+  int found = 0;
   for (std::size_t i = 0; i < elaborated.hits.size(); ++i) {
+    found += static_cast<int>(elaborated.hits[i].size());
     const int row = static_cast<int>(i) + 1;
     appendHits(w, w.FgZ100, row, elaborated.hits[i], RowColumn::QuantityOfNumbers, HitColour::BySorte);
     if (elaborated.hits[i].empty()) appendMiss(w, w.FgZ100, row);
@@ -31,6 +38,8 @@ void Cmd_Elabora100(Workbench& w) {
   }
   markOpenCases(w);
   ContaEsitix(w);
+  w.shell().status("Lunghetta elaborata: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
+                   counted(found, "esito", "esiti"));
 }
 
 void PreparaPerScoperti(Workbench& w) {
@@ -62,6 +71,8 @@ void CopiaFormule(Workbench& w) {
     Colora_fg00(w);
   }
   verificaTutte(w, Table::Lunghetta);
+  w.shell().status(w.Fg00.hasData() ? "Copiate in Lunghetta: " + counted(w.Fg00.dataRows(), "formula", "formule")
+                                    : "Nessuna formula da copiare in Lunghetta");
 }
 
 void MostraVistaEstesa(Workbench& w) {

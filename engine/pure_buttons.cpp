@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cases/formula_rows.h"
+#include "cases/status_texts.h"
 #include "engine/colouring.h"
 #include "engine/companion_buttons.h"
 #include "engine/evaluation.h"
@@ -65,7 +66,10 @@ NumberCounts countCompanions(const Workbench& w, Table table) {
 
 void CercaNumeri(Workbench& w, int wheelsOfSet) {
   using namespace formula_column;
-  if (!w.FgEv.hasData()) return;
+  if (!w.FgEv.hasData()) {
+    w.shell().status(kNoCases);
+    return;
+  }
   startLog(w);
   w.Elenco = w.ComboEle.number();
   w.Colpi = w.ComboColpi.number();

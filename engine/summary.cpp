@@ -8,6 +8,7 @@
 #include "cases/case_rows.h"
 #include "cases/case_search.h"
 #include "cases/hit_rows.h"
+#include "core/text.h"
 #include "engine/statistics.h"
 #include "engine/verification.h"
 #include "method/summary.h"
@@ -87,8 +88,8 @@ bool joinTables(Workbench& w) {
   w.EsitiPerSorte = summary.bySorte;
   scriveRiepilogo(w, summary.positive, summary.negative);
   PopolaGrafico(w);
-  w.shell().status("Riepilogo: " + std::to_string(w.FgEv.dataRows()) + " casi, " + std::to_string(summary.positive) +
-                   " esiti");
+  w.shell().status("Riepilogo: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
+                   counted(summary.positive, "esito", "esiti"));
   return !summary.anomaly;
 }
 
@@ -100,7 +101,13 @@ void CreaRiepilogo(Workbench& w) {
 
 void RielaboraTutto(Workbench& w) {
   RicavaElencoEstrazioni(w);
-  for (const TableTraits& table : kTables) verificaTutte(w, table.table);
+  int verified = 0;
+  for (const TableTraits& table : kTables) {
+    verificaTutte(w, table.table);
+    if (const int rows = w.formulas(table.table).dataRows(); rows > 0 && rows <= table.mostFormulas) ++verified;
+  }
+  w.shell().status("Rielaborato tutto: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
+                   counted(verified, "tabella verificata", "tabelle verificate"));
 }
 
 }  // namespace trv5

@@ -9,6 +9,8 @@
 #include "cases/hit_rows.h"
 #include "cases/method_codec.h"
 #include "cases/selections.h"
+#include "cases/status_texts.h"
+#include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/lunghetta.h"
 #include "engine/statistics.h"
@@ -17,9 +19,12 @@
 namespace trv5 {
 namespace {
 
-// False, with a message where the table holds too much, when there is nothing to verify.
+// False when there is nothing to verify, which the status line says, or when the table holds too much, with a message.
 bool canBeVerified(Workbench& w, Table table) {
-  if (!w.formulas(table).hasData()) return false;
+  if (!w.formulas(table).hasData()) {
+    w.shell().status(noFormulas(table));
+    return false;
+  }
   if (table != Table::Lunghetta || w.Fg00.dataRows() <= traitsOf(table).mostFormulas) return true;
   w.shell().message({.text = "Attenzione si possono elaborare al massimo 10 numeri. Rimuovere le formule in eccesso"});
   return false;
@@ -94,9 +99,12 @@ void writeRowHits(Workbench& w, const RowVerification& verified) {
   coloraEsiti(w, Table::Ambate);
 }
 
-void verificaRiga(Workbench& w, const Grid& formulas,
+void verificaRiga(Workbench& w, const Grid& formulas, const std::string& missing,
                   const std::function<void(const FormulaRow& row, ParametriFormula& p)>& evaluate) {
-  if (formulas.current() < 1) return;
+  if (formulas.current() < 1) {
+    w.shell().status(missing);
+    return;
+  }
   const FormulaRow row = readFormula(formulas, formulas.current());
   const Grid::Batch hitsBatch(w.FgZ1), casesBatch(w.FgEv), wheelsBatch(w.FgRG);
   if (w.Check3.checked()) playWheelsOfRow(w, row);
@@ -105,7 +113,7 @@ void verificaRiga(Workbench& w, const Grid& formulas,
   caricaParametri(row, w.Formula);
   writeRowHits(
       w, verifyRow(w.archive, playWindow(w), caseDraws(w), w.Formula, [&](ParametriFormula& p) { evaluate(row, p); }));
-  w.shell().status("Verifica riga selezionata: " + std::to_string(w.FgEv.dataRows()) + " casi");
+  w.shell().status("Verifica riga selezionata: " + counted(w.FgEv.dataRows(), "caso", "casi"));
 }
 
 }  // namespace
@@ -126,8 +134,8 @@ void verificaTutte(Workbench& w, Table table) {
   scriveStatistica(w, traits.section, w.FgSSS.text(1, traits.markColumn - case_column::kHits), verified.totals.hits,
                    countMisses(verified, open));
   PopolaGrafico(w);
-  w.shell().status("Verifica tutte le righe: " + std::to_string(w.FgEv.dataRows()) + " casi, " +
-                   std::to_string(verified.totals.hits) + " esiti");
+  w.shell().status("Verifica tutte le righe: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
+                   counted(verified.totals.hits, "esito", "esiti"));
 }
 
 void verificaPerCc(Workbench& w, Table table) {
@@ -156,15 +164,17 @@ void verificaOltreLimite(Workbench& w, Table table) {
   coloraEsiti(w, table);
   markOpenCases(w);
   azzeraStatistiche(w);
-  w.shell().status("Verifica oltre limite: " + std::to_string(w.hits(table).dataRows()) + " righe");
+  w.shell().status("Verifica oltre limite: " + counted(w.hits(table).dataRows(), "riga", "righe"));
 }
 
 void verificaRigaFormula(Workbench& w) {
-  verificaRiga(w, w.Fg11, [&w](const FormulaRow&, ParametriFormula& p) { OttieneNumero(w.archive, p); });
+  verificaRiga(w, w.Fg11, chooseRowFirst(Table::Ambate),
+               [&w](const FormulaRow&, ParametriFormula& p) { OttieneNumero(w.archive, p); });
 }
 
 void verificaRigaRicerca(Workbench& w) {
-  verificaRiga(w, w.FgF, [&w](const FormulaRow& row, ParametriFormula& p) { valutaRigaRicerca(w.archive, row, p); });
+  verificaRiga(w, w.FgF, chooseRowFirst("della ricerca"),
+               [&w](const FormulaRow& row, ParametriFormula& p) { valutaRigaRicerca(w.archive, row, p); });
 }
 
 }  // namespace trv5

@@ -15,6 +15,7 @@ enum class Table : std::uint8_t { Ambate, Ambi, Terni, Lunghetta };
 /// alone.
 struct TableTraits {
   Table table;
+  std::string_view caption;  ///< as the user reads it
   int code;                  ///< given code: `TipoVerifica`, the index of its `Cmd_LaSorte`, column 21 of its rows
   std::string_view section;  ///< its name in `Fg_Stat`
   int offset;                ///< its cases in `NumeriInGioco` begin behind this index
@@ -28,10 +29,11 @@ struct TableTraits {
   bool clearsMarksBeyondLimit;  ///< whether "oltre limite" first clears its column of `FgEv`
 };
 
-inline constexpr std::array<TableTraits, 4> kTables = {{{Table::Ambate, 1, "1N", 0, 1, 17, 5, 1, false, false},
-                                                        {Table::Ambi, 2, "2N", 50, 2, 18, 5, 2, true, true},
-                                                        {Table::Terni, 3, "3N", 100, 3, 19, 5, 3, true, true},
-                                                        {Table::Lunghetta, 6, "LU", 250, 6, 22, 10, 0, false, true}}};
+inline constexpr std::array<TableTraits, 4> kTables = {
+    {{Table::Ambate, "Ambate", 1, "1N", 0, 1, 17, 5, 1, false, false},
+     {Table::Ambi, "Ambi", 2, "2N", 50, 2, 18, 5, 2, true, true},
+     {Table::Terni, "Terni", 3, "3N", 100, 3, 19, 5, 3, true, true},
+     {Table::Lunghetta, "Lunghetta", 6, "LU", 250, 6, 22, 10, 0, false, true}}};
 
 constexpr std::size_t indexOf(Table table) {
   return static_cast<std::size_t>(table);
