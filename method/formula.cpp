@@ -32,11 +32,6 @@ const ElementTable* findElementTable(std::string_view alteration) {
   return it == kAlterations.end() ? nullptr : &tables[static_cast<std::size_t>(it - kAlterations.begin())];
 }
 
-std::optional<ElementTable> elementTable(std::string_view alteration) {
-  const ElementTable* const table = findElementTable(alteration);
-  return table == nullptr ? std::nullopt : std::optional<ElementTable>(*table);
-}
-
 ElementTable constantTable(int element) {
   return tableOf([element](int) { return element; });
 }

@@ -20,9 +20,6 @@ inline constexpr std::array<std::string_view, 9> kAlterations = {"",     "C91", 
 /// The table of an alteration literal, made once for the whole run; null for a text that is none.
 const ElementTable* findElementTable(std::string_view alteration);
 
-/// A copy of that table; nothing for a text that is none.
-std::optional<ElementTable> elementTable(std::string_view alteration);
-
 /// A table that gives `element` whatever was drawn.
 ElementTable constantTable(int element);
 

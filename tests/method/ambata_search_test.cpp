@@ -2,21 +2,13 @@
 
 #include <set>
 
-#include "support/archive_builder.h"
-#include "support/print_candidate.h"
-#include "support/random_runs.h"
-#include "support/random_search.h"
+#include "search_setups.h"
 
 namespace trv5 {
 namespace {
 
-// The rankings of both searches on settings of a seed; several settings share an archive, which is what costs time.
-void compareOnSeed(unsigned seed, Shape shape, int settings) {
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 rng(seed);
-  const Archive archive = randomSearchArchive(rng);
-  for (int setting = 0; setting < settings; ++setting) {
-    SCOPED_TRACE("setting " + std::to_string(setting));
+void compare(Shape shape, unsigned firstSeed) {
+  compareOnSeeds(firstSeed, 100, 20, [shape](std::mt19937& rng, const Archive& archive, int setting) {
     const PlainFormula formula = randomFormula(rng, shape);
     AmbataRequest request = randomAmbataRequest(rng, archive);
     request.wheelSets = {randomWheelSet(rng)};
@@ -24,14 +16,7 @@ void compareOnSeed(unsigned seed, Shape shape, int settings) {
     if (shape == Shape::TwoTwoWheels && setting % 4 != 0)
       request.cases.resize(std::min<std::size_t>(request.cases.size(), 3));
     ASSERT_EQ(searchAmbate(request), plainSearchAmbate(formula, request));
-  }
-}
-
-void compare(Shape shape, unsigned firstSeed) {
-  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(100)); ++seed) {
-    compareOnSeed(seed, shape, 20);
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  });
 }
 
 TEST(AmbataSearch, OfOneNumberAgreesWithThePlainCount) {
@@ -50,40 +35,20 @@ TEST(AmbataSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
   compare(Shape::TwoTwoWheels, 4000);
 }
 
-// Draw 1 holds 10 at the first place of BA, the only case; what follows it is up to the test.
-AmbataRequest oneCase(const Archive& archive) {
-  AmbataRequest request;
-  request.archive = &archive;
-  request.formula = formulaInput({});
-  request.cases = {1};
-  request.colpi = 3;
-  request.lastDraw = archive.NumEstrazioni();
-  request.wheelSets = {1U};
-  request.allowedFix = everyFix();
-  request.withFix = true;
-  request.keep = 5000;
-  return request;
+AmbataRequest onBari(const Archive& archive) {
+  return oneCase(archive, {1U});
 }
-
-// The row of BA's first number with a fix; an empty one where there is none.
-Candidate rowOf(const std::vector<Candidate>& rows, int fix, int wheelSet = 0) {
-  for (const Candidate& row : rows)
-    if (row.elements == ElementSet{{0, 0, 0}, {1, 0, 0}} && row.fix == fix && row.wheelSet == wheelSet) return row;
-  return {};
-}
-
-const WheelNumbers kCase = {{"BA", {10, 11, 12, 13, 14}}};
 
 TEST(AmbataSearch, CountsACaseOnceHoweverOftenItHits) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}, {{"BA", {5, 6, 25, 7, 8}}}});
-  const Candidate row = rowOf(searchAmbate(oneCase(archive)), 15);
+  const Candidate row = rowOf(searchAmbate(onBari(archive)), 15);
   EXPECT_EQ(row.cc, 1);
   EXPECT_EQ(row.pres, 2);
 }
 
 TEST(AmbataSearch, CountsANumberOnTwoWheelsOfPlayAsOneCaseAndTwoPresences) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}, {"CA", {5, 6, 25, 7, 8}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.wheelSets = {3U};
   const Candidate row = rowOf(searchAmbate(request), 15);
   EXPECT_EQ(row.cc, 1);
@@ -92,14 +57,14 @@ TEST(AmbataSearch, CountsANumberOnTwoWheelsOfPlayAsOneCaseAndTwoPresences) {
 
 TEST(AmbataSearch, TakesAWheelNotDrawnAndNinetyForTwoNumbersOfOneFix) {
   const Archive archive = archiveOf({kCase, {{"BA", {90, 1, 2, 3, 4}}}, {{"CA", {1, 2, 3, 4, 5}}}});
-  const Candidate row = rowOf(searchAmbate(oneCase(archive)), 80);  // 10 + 80; the third draw has no BA
+  const Candidate row = rowOf(searchAmbate(onBari(archive)), 80);  // 10 + 80; the third draw has no BA
   EXPECT_EQ(row.cc, 2);
   EXPECT_EQ(row.pres, 6);
 }
 
 TEST(AmbataSearch, WithoutFixFindsOnlyTheNumberItself) {
   const Archive archive = archiveOf({kCase, {{"BA", {10, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.withFix = false;
   request.wheelSets = {1U};
   std::set<int> fixes;
@@ -110,7 +75,7 @@ TEST(AmbataSearch, WithoutFixFindsOnlyTheNumberItself) {
 
 TEST(AmbataSearch, FindsOnlyAllowedFixes) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.allowedFix.fill(false);
   request.allowedFix[15] = true;
   for (const Candidate& row : searchAmbate(request)) EXPECT_EQ(row.fix, 15);
@@ -119,14 +84,14 @@ TEST(AmbataSearch, FindsOnlyAllowedFixes) {
 
 TEST(AmbataSearch, FindsNothingWithoutAWheelOfPlay) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.wheelSets = {0U};
   EXPECT_TRUE(searchAmbate(request).empty());
 }
 
 TEST(AmbataSearch, FindsNothingWithoutACountingCase) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.cases.clear();
   EXPECT_TRUE(searchAmbate(request).empty());
 }
@@ -134,7 +99,7 @@ TEST(AmbataSearch, FindsNothingWithoutACountingCase) {
 TEST(AmbataSearch, KeepsTheEarlierOfTwoFormulasThatCoverAsManyCases) {
   // 10 + 15 comes once, 11 + 14 (the same 25) too; fix 14 is met first, whatever its presences.
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}, {{"BA", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.allowedFix.fill(false);
   request.allowedFix[14] = request.allowedFix[15] = true;
   request.keep = 1;
@@ -145,7 +110,7 @@ TEST(AmbataSearch, KeepsTheEarlierOfTwoFormulasThatCoverAsManyCases) {
 
 TEST(AmbataSearch, SeesNoDrawBehindTheReferenceDraw) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}, {{"BA", {35, 5, 6, 7, 8}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.lastDraw = 2;
   EXPECT_EQ(rowOf(searchAmbate(request), 15).cc, 1);
   EXPECT_EQ(rowOf(searchAmbate(request), 25).cc, 0);
@@ -155,7 +120,7 @@ TEST(AmbataSearch, SeesNoDrawBehindTheReferenceDraw) {
 
 TEST(AmbataSearch, ReachesAsFarAsTheColpi) {
   const Archive archive = archiveOf({kCase, {{"BA", {1, 2, 3, 4, 5}}}, {{"BA", {25, 6, 7, 8, 9}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.colpi = 2;
   EXPECT_EQ(rowOf(searchAmbate(request), 15).cc, 1);
   request.colpi = 1;
@@ -164,7 +129,7 @@ TEST(AmbataSearch, ReachesAsFarAsTheColpi) {
 
 TEST(AmbataSearch, KeepsNothingInARankingOfNoRows) {
   const Archive archive = archiveOf({kCase, {{"BA", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.keep = 0;
   EXPECT_TRUE(searchAmbate(request).empty());
 }
@@ -176,7 +141,7 @@ TEST(AmbataSearch, CountsAllDrawsOfALongArchiveWithoutOverflow) {
   row.wheels.fill(numbers);
   Archive archive;
   archive.loadNumbers(std::vector<DrawRow>(Archive::kMaxDraws, row));
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onBari(archive);
   request.cases.assign(50, 1);
   request.colpi = 32767;
   request.wheelSets = {(1U << kWheels) - 1U};

@@ -1,24 +1,18 @@
 #include <gtest/gtest.h>
 
-#include "support/archive_builder.h"
-#include "support/print_candidate.h"
-#include "support/random_runs.h"
-#include "support/random_search.h"
+#include "search_setups.h"
 
 namespace trv5 {
 namespace {
 
-void compareOnSeed(unsigned seed, Shape shape, const std::vector<WheelSet>& wheelSets, int settings) {
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 rng(seed);
-  const Archive archive = randomSearchArchive(rng);
-  for (int setting = 0; setting < settings; ++setting) {
-    SCOPED_TRACE("setting " + std::to_string(setting));
+// What compares both searches on these passes: all of them in one setting of a seed, a few, which is much quicker, in
+// the others.
+auto passes(Shape shape, const std::vector<WheelSet>& wheelSets) {
+  return [shape, &wheelSets](std::mt19937& rng, const Archive& archive, int setting) {
     const PlainFormula formula = randomFormula(rng, shape);
     AmbataRequest request = randomAmbataRequest(rng, archive);
     request.cases.resize(std::min<std::size_t>(request.cases.size(), 6));
     request.colpi = below(rng, 4);
-    // All passes of a button in one setting of a seed, a few of them, which is much quicker, in the others.
     request.wheelSets = wheelSets;
     if (setting > 0) {
       const auto skip = below(rng, static_cast<int>(wheelSets.size()));
@@ -28,14 +22,11 @@ void compareOnSeed(unsigned seed, Shape shape, const std::vector<WheelSet>& whee
     request.repeatsAtZeroGetLost = shape == Shape::OneNumber;
     request.formula = formulaInput(formula);
     ASSERT_EQ(searchAmbate(request), plainSearchAmbate(formula, request));
-  }
+  };
 }
 
 void compare(Shape shape, const std::vector<WheelSet>& wheelSets, unsigned firstSeed) {
-  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(25)); ++seed) {
-    compareOnSeed(seed, shape, wheelSets, 40);
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  compareOnSeeds(firstSeed, 25, 40, passes(shape, wheelSets));
 }
 
 TEST(BestWheelSearch, OfOneNumberOnOneWheelAgreesWithThePlainCount) {
@@ -69,39 +60,20 @@ TEST(BestWheelSearch, TakesAnyNumberOfAnySetsOfWheels) {
     std::mt19937 rng(seed);
     std::vector<WheelSet> wheelSets(static_cast<std::size_t>(2 + below(rng, 40)));
     for (WheelSet& set : wheelSets) set = randomWheelSet(rng);
-    compareOnSeed(seed, below(rng, 2) == 0 ? Shape::OneNumber : Shape::TwoOneWheel, wheelSets, 1);
+    compareOnSeed(seed, 1, passes(below(rng, 2) == 0 ? Shape::OneNumber : Shape::TwoOneWheel, wheelSets));
     if (testing::Test::HasFatalFailure()) return;
   }
 }
 
-// 10 at the first place of BA; 25 comes on CA twice and on FI once.
-AmbataRequest oneCase(const Archive& archive) {
-  AmbataRequest request;
-  request.archive = &archive;
-  request.formula = formulaInput({});
-  request.cases = {1};
-  request.colpi = 3;
-  request.lastDraw = archive.NumEstrazioni();
-  request.wheelSets = plainWheelSets(1);
-  request.allowedFix = everyFix();
-  request.withFix = true;
-  request.keep = 5000;
+AmbataRequest onEachWheel(const Archive& archive) {
+  AmbataRequest request = oneCase(archive, plainWheelSets(1));
   request.repeatsAtZeroGetLost = true;
   return request;
 }
 
-std::vector<Candidate> rowsOf(const AmbataRequest& request, int fix) {
-  std::vector<Candidate> rows;
-  for (const Candidate& row : searchAmbate(request))
-    if (row.elements == ElementSet{{0, 0, 0}, {1, 0, 0}} && row.fix == fix) rows.push_back(row);
-  return rows;
-}
-
-const WheelNumbers kCase = {{"BA", {10, 11, 12, 13, 14}}};
-
 TEST(BestWheelSearch, RanksTheSameFormulaOnceForEachWheelSet) {
   const Archive archive = archiveOf({kCase, {{"CA", {25, 1, 2, 3, 4}}, {"FI", {25, 1, 2, 3, 4}}}});
-  const std::vector<Candidate> rows = rowsOf(oneCase(archive), 15);
+  const std::vector<Candidate> rows = rowsOf(searchAmbate(onEachWheel(archive)), 15);
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].wheelSet, 1);
   EXPECT_EQ(rows[1].wheelSet, 2);
@@ -109,7 +81,7 @@ TEST(BestWheelSearch, RanksTheSameFormulaOnceForEachWheelSet) {
 
 TEST(BestWheelSearch, KeepsTheEarlierWheelSetAmongEquals) {
   const Archive archive = archiveOf({kCase, {{"CA", {25, 1, 2, 3, 4}}, {"FI", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onEachWheel(archive);
   request.allowedFix.fill(false);
   request.allowedFix[15] = true;
   request.keep = 1;
@@ -120,29 +92,29 @@ TEST(BestWheelSearch, KeepsTheEarlierWheelSetAmongEquals) {
 
 TEST(BestWheelSearch, OfOneNumberLosesTheRepeatsOfTheFormulaWithoutFix) {
   const Archive archive = archiveOf({kCase, {{"CA", {10, 1, 2, 3, 4}}}, {{"CA", {5, 10, 6, 7, 8}}}});
-  AmbataRequest request = oneCase(archive);
-  const std::vector<Candidate> lost = rowsOf(request, 90);
+  AmbataRequest request = onEachWheel(archive);
+  const std::vector<Candidate> lost = rowsOf(searchAmbate(request), 90);
   ASSERT_EQ(lost.size(), 1U);
   EXPECT_EQ(lost.front().cc, 1);
   EXPECT_EQ(lost.front().pres, 1);
   request.repeatsAtZeroGetLost = false;
-  EXPECT_EQ(rowsOf(request, 90).front().pres, 2);
+  EXPECT_EQ(rowsOf(searchAmbate(request), 90).front().pres, 2);
 }
 
 TEST(BestWheelSearch, OfOneNumberKeepsTheRepeatsOfOtherFixes) {
   const Archive archive = archiveOf({kCase, {{"CA", {25, 1, 2, 3, 4}}}, {{"CA", {5, 25, 6, 7, 8}}}});
-  EXPECT_EQ(rowsOf(oneCase(archive), 15).front().pres, 2);
+  EXPECT_EQ(rowsOf(searchAmbate(onEachWheel(archive)), 15).front().pres, 2);
 }
 
 TEST(BestWheelSearch, AddsThePresencesOfTheWheelsOfASet) {
   const Archive archive = archiveOf({kCase, {{"CA", {25, 1, 2, 3, 4}}, {"FI", {25, 1, 2, 3, 4}}}});
-  AmbataRequest request = oneCase(archive);
+  AmbataRequest request = onEachWheel(archive);
   request.wheelSets = plainWheelSets(2);
-  const Candidate best = rowsOf(request, 15).front();
+  const Candidate best = rowsOf(searchAmbate(request), 15).front();
   EXPECT_EQ(best.cc, 1);
   EXPECT_EQ(best.wheelSet, 0);  // BA and CA come before CA and FI
   int most = 0;
-  for (const Candidate& row : rowsOf(request, 15)) most = std::max(most, row.pres);
+  for (const Candidate& row : rowsOf(searchAmbate(request), 15)) most = std::max(most, row.pres);
   EXPECT_EQ(most, 2);
 }
 

@@ -1,31 +1,18 @@
 #include <gtest/gtest.h>
 
-#include "support/archive_builder.h"
-#include "support/print_candidate.h"
-#include "support/random_runs.h"
-#include "support/random_search.h"
+#include "search_setups.h"
 
 namespace trv5 {
 namespace {
 
-void compareOnSeed(unsigned seed, Shape shape, int settings) {
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937 rng(seed);
-  const Archive archive = randomSearchArchive(rng);
-  for (int setting = 0; setting < settings; ++setting) {
-    SCOPED_TRACE("setting " + std::to_string(setting));
+void compare(Shape shape, unsigned firstSeed) {
+  // Ambo, terno and lunghetta take turns at random.
+  compareOnSeeds(firstSeed, 100, 30, [shape](std::mt19937& rng, const Archive& archive, int) {
     const PlainFormula formula = randomFormula(rng, shape);
     CompanionRequest request = randomCompanionRequest(rng, archive);
     request.formula = formulaInput(formula);
     ASSERT_EQ(searchCompanions(request), plainSearchCompanions(formula, request));
-  }
-}
-
-void compare(Shape shape, unsigned firstSeed) {
-  for (unsigned seed = firstSeed; seed < firstSeed + static_cast<unsigned>(randomRuns(100)); ++seed) {
-    compareOnSeed(seed, shape, 30);  // ambo, terno and lunghetta take turns at random
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  });
 }
 
 TEST(CompanionSearch, OfOneNumberAgreesWithThePlainCount) {
@@ -44,28 +31,19 @@ TEST(CompanionSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
   compare(Shape::TwoTwoWheels, 14000);
 }
 
-// The case is draw 1, with 10 at the first place of BA. Without fix a formula finds the companion itself, so the
-// number 20 is that of fix 10.
-const WheelNumbers kCase = {{"BA", {10, 11, 12, 13, 14}}};
 constexpr WheelSet kBariAndCagliari = 3U;
 
 CompanionRequest onRows(const Archive& archive, std::vector<CompanionRow> rows) {
-  CompanionRequest request;
-  request.archive = &archive;
-  request.formula = formulaInput({});
+  auto request = requestOn<CompanionRequest>(archive);
   request.rows = std::move(rows);
   request.wheels = kBariAndCagliari;
-  request.allowedFix = everyFix();
-  request.withFix = true;
-  request.keep = 5000;
   return request;
 }
 
-// The row of BA's first number with the fix that makes `number` of it; an empty one where there is none.
+// The row of BA's first number with the fix that makes `number` of it. Without fix a formula finds the companion
+// itself, so the number 20 is that of fix 10.
 Candidate rowOf(const CompanionRequest& request, int number) {
-  for (const Candidate& row : searchCompanions(request))
-    if (row.elements == ElementSet{{0, 0, 0}, {1, 0, 0}} && row.fix == fold90(number - 10)) return row;
-  return {};
+  return rowOf(searchCompanions(request), fold90(number - 10));
 }
 
 TEST(CompanionSearch, CountsTheFourNumbersThatCameOutWithTheAmbata) {

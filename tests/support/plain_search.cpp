@@ -271,7 +271,7 @@ FormulaInput formulaInput(const PlainFormula& formula) {
   for (size_t e = 0; e < input.elements.size(); ++e)
     input.elements[e] = formula.alteration == PlainFormula::kConstant
                             ? constantTable(formula.constants[e])
-                            : *elementTable(kAlterations[static_cast<size_t>(formula.alteration)]);
+                            : *findElementTable(kAlterations[static_cast<size_t>(formula.alteration)]);
   input.op = *operatorOf(kOperators[static_cast<size_t>(formula.op)]);
   input.triples = formula.triples;
   return input;
