@@ -57,9 +57,7 @@ int sheetDay(std::chrono::sys_days day) {
 // Sheets have names of 31 characters at most, without some signs.
 std::string sheetName(std::string name) {
   std::erase_if(name, [](char c) { return std::string_view("[]:*?/\\'").find(c) != std::string_view::npos; });
-  std::size_t length = std::min<std::size_t>(name.size(), 31);
-  while (length < name.size() && length > 0 && (static_cast<unsigned char>(name[length]) & 0xC0U) == 0x80U) --length;
-  return name.substr(0, length);
+  return name.substr(0, byteOfCharacter(name, 31));
 }
 
 class Formats {

@@ -1,7 +1,12 @@
 #include "screens/kit/grid_export.h"
 
+#include <archive.h>
+#include <archive_entry.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <QRegularExpression>
+#include <memory>
 
 #include "core/errors.h"
 #include "core/grid_text.h"
@@ -35,6 +40,45 @@ std::string failure(const std::filesystem::path& file, const Grid& grid) {
   }
 }
 
+// A part of the workbook as it lies in its file.
+QString partOf(const std::filesystem::path& file, const std::string& part) {
+  const std::unique_ptr<archive, int (*)(archive*)> reader(archive_read_new(), archive_read_free);
+  archive_read_support_format_zip(reader.get());
+  if (archive_read_open_filename(reader.get(), file.c_str(), 65536) != ARCHIVE_OK) return {};
+  for (archive_entry* entry = nullptr; archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;) {
+    if (archive_entry_pathname(entry) != part) continue;
+    QByteArray bytes(static_cast<qsizetype>(archive_entry_size(entry)), '\0');
+    archive_read_data(reader.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+    return QString::fromUtf8(bytes);
+  }
+  return {};
+}
+
+// The name of the sheet where the table was exported as `name`.
+QString sheetOf(const std::string& name) {
+  const TempFolder folder;
+  writeXlsx(folder / "a.xlsx", table(1, 1), name);
+  static const QRegularExpression kSheet(QStringLiteral("<sheet name=\"([^\"]*)\""));
+  return kSheet.match(partOf(folder / "a.xlsx", "xl/workbook.xml")).captured(1);
+}
+
+// How the cell in `place` ("A2") shows its number; empty where it holds a text or nothing.
+QString numberFormat(const std::filesystem::path& file, const QString& place) {
+  const QRegularExpression cell(QStringLiteral("<c r=\"%1\" s=\"(\\d+)\"><v>").arg(place));
+  const QRegularExpressionMatch found = cell.match(partOf(file, "xl/worksheets/sheet1.xml"));
+  if (!found.hasMatch()) return {};
+  const QString styles = partOf(file, "xl/styles.xml");
+  static const QRegularExpression kStyle(QStringLiteral("<xf numFmtId=\"(\\d+)\""));
+  const QString id = [&] {
+    QRegularExpressionMatchIterator all = kStyle.globalMatch(styles, styles.indexOf(QStringLiteral("<cellXfs")));
+    for (int skipped = found.captured(1).toInt(); skipped > 0 && all.hasNext(); --skipped) all.next();
+    return all.hasNext() ? all.next().captured(1) : QString();
+  }();
+  if (id == QStringLiteral("0")) return QStringLiteral("General");
+  const QRegularExpression format(QStringLiteral("<numFmt numFmtId=\"%1\" formatCode=\"([^\"]*)\"").arg(id));
+  return format.match(styles).captured(1);
+}
+
 // A cell of one column written and read again.
 std::string readBack(const std::string& text) {
   const TempFolder folder;
@@ -61,6 +105,34 @@ TEST(GridExport, WritesAWorkbookOverTheFormerOneAsAWhole) {
       ElementsAre(ElementsAre("Prog", "Data esito", "Data esito", "Data esito"),
                   ElementsAre("100a", "101a", "102a", "103a"), ElementsAre("200a", "07", "123456789012345", "")));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1) << "nothing is left beside it";
+}
+
+TEST(GridExport, DatesAreDatesAndNumbersAreNumbers) {
+  const TempFolder folder;
+  Grid grid("21/08/2026|Testo|Num");
+  const char* const dates[] = {"21/08/2026", "01/01/1901", "31/12/1900", "29/02/2025", "1/8/2026", "07"};
+  grid.setRows(7);
+  for (int row = 1; row < 7; ++row) grid.setText(row, 0, dates[row - 1]);
+  grid.setText(1, 2, "90");
+  grid.setBack(1, 0, GialloChiaro);
+  writeXlsx(folder / "a.xlsx", grid);
+  // A sheet counts days from the end of 1899: 01/01/2000 is the day 36526.
+  const std::vector<std::string> wanted = {"21/08/2026", "46255", "367", "31/12/1900", "29/02/2025", "1/8/2026", "07"};
+  std::vector<std::string> column;
+  for (const std::vector<std::string>& row : readWorkbook(folder / "a.xlsx")) column.push_back(row.at(0));
+  EXPECT_EQ(column, wanted);
+  EXPECT_EQ(numberFormat(folder / "a.xlsx", QStringLiteral("A2")), QStringLiteral("dd/mm/yyyy"));
+  EXPECT_EQ(numberFormat(folder / "a.xlsx", QStringLiteral("A3")), QStringLiteral("dd/mm/yyyy"));
+  EXPECT_EQ(numberFormat(folder / "a.xlsx", QStringLiteral("C2")), QStringLiteral("General"));
+  for (const char* text : {"A1", "A4", "A5", "A6", "A7"})
+    EXPECT_EQ(numberFormat(folder / "a.xlsx", QLatin1String(text)), QString()) << text << " is a text";
+}
+
+TEST(GridExport, TheSheetHasTheNameOfTheTable) {
+  EXPECT_EQ(sheetOf("Esiti ambate"), QStringLiteral("Esiti ambate"));
+  EXPECT_EQ(sheetOf("Esiti: ambate"), QStringLiteral("Esiti ambate")) << "no sheet may have a colon";
+  EXPECT_EQ(sheetOf(""), QStringLiteral("Sheet1"));
+  EXPECT_EQ(sheetOf(std::string(30, 'x') + "àà"), QString(30, u'x') + u'à') << "31 characters at most";
 }
 
 TEST(GridExport, AFolderThatIsNotThereIsTold) {
