@@ -12,6 +12,8 @@
 
 #include "core/file_writer.h"
 #include "core/grid_text.h"
+#include "core/text.h"
+#include "engine/table_tools.h"
 #include "screens/kit/grid_export.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/icons.h"
@@ -19,6 +21,14 @@
 #include "screens/kit/theme.h"
 
 namespace trv5 {
+namespace {
+
+void tellExported(const GridControl& grid, const std::filesystem::path& file) {
+  const int rows = static_cast<int>(visibleRows(grid).size()) - grid.headingRows();
+  grid.form().shell().status("Esportato " + file.filename().string() + ": " + counted(rows, "riga", "righe"));
+}
+
+}  // namespace
 
 std::vector<std::pair<int, int>> GridView::chosenCells() const {
   std::vector<std::pair<int, int>> cells;
@@ -30,29 +40,35 @@ std::vector<std::pair<int, int>> GridView::chosenCells() const {
 
 void GridView::copySelection() {
   sync();
+  Shell& shell = m_grid.form().shell();
   const std::vector<std::pair<int, int>> cells = chosenCells();
-  if (cells.empty()) return;
+  if (cells.empty()) return shell.status("Nessuna cella scelta da copiare");
   auto* const copied = new QMimeData;
   copied->setText(qs(cellsText(m_grid, cells)));
   copied->setHtml(qs(cellsHtml(m_grid, cells)));
   QApplication::clipboard()->setMimeData(copied);
+  shell.status("Copiate: " + counted(static_cast<int>(cells.size()), "cella", "celle"));
 }
 
 void GridView::copyTable() {
-  m_grid.form().perform([this] { m_grid.form().shell().setClipboard(tableText(m_grid)); });
+  m_grid.form().perform([this] { CopiaTabella(m_grid); });
 }
 
 void GridView::exportCsv() {
   m_grid.form().perform([this] {
     const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta CSV", "*.csv", "csv"));
-    if (file) writeFile(*file, csvText(m_grid));
+    if (!file) return;
+    writeFile(*file, csvText(m_grid));
+    tellExported(m_grid, *file);
   });
 }
 
 void GridView::exportXlsx() {
   m_grid.form().perform([this] {
     const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta XLSX", "*.xlsx", "xlsx"));
-    if (file) writeXlsx(*file, m_grid, accessibleName().toStdString());
+    if (!file) return;
+    writeXlsx(*file, m_grid, accessibleName().toStdString());
+    tellExported(m_grid, *file);
   });
 }
 

@@ -138,7 +138,8 @@ void QtShell::print(const Grid& grid, const PrintSetup& asked) {
   preview.setWindowTitle(QStringLiteral("Anteprima di stampa"));
   connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
           [&](QPrinter* target) { printGrid(grid, setup, *target); });
-  preview.exec();
+  if (preview.exec() == QDialog::Accepted)
+    status("Stampa inviata: " + (setup.title.empty() ? std::string("TRV5") : setup.title));
 }
 
 }  // namespace trv5

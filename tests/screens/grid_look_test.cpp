@@ -3,6 +3,7 @@
 
 #include "grid_world.h"
 #include "screens/kit/theme.h"
+#include "support/temp_folder.h"
 
 namespace trv5 {
 namespace {
@@ -76,6 +77,34 @@ TEST_F(GridLookTest, WholeGridsAreAsHighAsTheirRowsMayBe) {
   GridView view(grid, {.minRow = line, .maxRow = line + 5, .whole = true});
   EXPECT_EQ(view.minimumSizeHint().height(), 11 * line + 2 * view.frameWidth());
   EXPECT_EQ(view.maximumHeight(), 11 * (line + 5) + 2 * view.frameWidth());
+}
+
+TEST(GridActions, SayWhatTheyDidWhereItIsOutOfSight) {
+  const TempFolder folder;
+  FakeShell shell;
+  Form form(shell, "Prova", "Prova");
+  GridControl grid(form, "FgZ1", "a|b");
+  GridView view(grid);
+  view.copySelection();
+  EXPECT_EQ(shell.statusTexts.back(), "Nessuna cella scelta da copiare");
+  fill(grid, 3);
+  grid.setRowHidden(2, true);
+  settle();
+  view.selectRow(0);
+  view.copySelection();
+  EXPECT_EQ(shell.statusTexts.back(), "Copiate: 2 celle");
+  view.copyTable();
+  EXPECT_EQ(shell.statusTexts.back(), "Tabella copiata: 3 righe") << "hidden ones are copied too";
+  shell.answerFile(folder / "a.csv");
+  view.exportCsv();
+  EXPECT_EQ(shell.statusTexts.back(), "Esportato a.csv: 2 righe");
+  shell.answerFile(folder / "a.xlsx");
+  view.exportXlsx();
+  EXPECT_EQ(shell.statusTexts.back(), "Esportato a.xlsx: 2 righe");
+  const std::size_t told = shell.statusTexts.size();
+  shell.answerCancel();
+  view.exportCsv();
+  EXPECT_EQ(shell.statusTexts.size(), told) << "a cancelled export has done nothing";
 }
 
 // Keeps what a box for a file to save was asked with.
