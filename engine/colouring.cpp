@@ -7,26 +7,34 @@
 namespace trv5 {
 namespace {
 
-void paintColumns(Grid& grid, int row, int from, int to, Rgb colour) {
-  for (int column = from; column <= to; ++column) grid.setBack(row, column, colour);
-}
-
 void colourFormulas(Grid& formulas, Rgb counters) {
   using namespace formula_column;
   const Grid::Batch batch(formulas);
   for (int row = 1; row < formulas.rows(); ++row) {
-    paintColumns(formulas, row, kR1, kP1, GialloChiaro);
-    paintColumns(formulas, row, kR2, kP2, VerdeChiaro);
-    paintColumns(formulas, row, kR3, kP3, AranciaChiaro);
-    paintColumns(formulas, row, kPres, kCc, counters);
-    formulas.setFore(row, kFix, Rosso);
-    formulas.setBold(row, kFix);
-    formulas.setFore(row, kCc, Blu);
-    formulas.setBold(row, kCc);
+    for (int column = 0; column < formulas.columns(); ++column) {
+      const Cell colours = formulaColours(column);
+      if (colours.back != kWhite) formulas.setBack(row, column, colours.back);
+      if (colours.fore != kBlack) formulas.setFore(row, column, colours.fore);
+      if (colours.bold) formulas.setBold(row, column);
+    }
+    for (const int column : {kPres, kCc}) formulas.setBack(row, column, counters);
   }
 }
 
 }  // namespace
+
+Cell formulaColours(int column) {
+  using namespace formula_column;
+  Cell colours;
+  if (column >= kR1 && column <= kP1) colours.back = GialloChiaro;
+  if (column >= kR2 && column <= kP2) colours.back = VerdeChiaro;
+  if (column >= kR3 && column <= kP3) colours.back = AranciaChiaro;
+  if (column == kPres || column == kCc) colours.back = GialloChiaro;
+  if (column == kFix) colours.fore = Rosso;
+  if (column == kCc) colours.fore = Blu;
+  colours.bold = column == kFix || column == kCc;
+  return colours;
+}
 
 void coloraFormule(Grid& formulas) {
   colourFormulas(formulas, GialloChiaro);

@@ -4,6 +4,9 @@
 
 namespace trv5 {
 
+/// How a column of a formula table is coloured: a cell with these colours and without a text.
+Cell formulaColours(int column);
+
 /// Colours a formula table: elements, counters, fix.
 void coloraFormule(Grid& formulas);
 

@@ -38,6 +38,14 @@ std::vector<std::pair<int, int>> GridView::chosenCells() const {
   return cells;
 }
 
+// What leaves the view in colours looks as it does on screen.
+Grid GridView::drawnGrid() const {
+  Grid drawn = m_grid;
+  for (int row = 0; m_look.colours && row < drawn.rows(); ++row)
+    for (int column = 0; column < drawn.columns(); ++column) drawn.setCell(row, column, drawnCell(row, column));
+  return drawn;
+}
+
 void GridView::copySelection() {
   sync();
   Shell& shell = m_grid.form().shell();
@@ -45,7 +53,7 @@ void GridView::copySelection() {
   if (cells.empty()) return shell.status("Nessuna cella scelta da copiare");
   auto* const copied = new QMimeData;
   copied->setText(qs(cellsText(m_grid, cells)));
-  copied->setHtml(qs(cellsHtml(m_grid, cells)));
+  copied->setHtml(qs(cellsHtml(drawnGrid(), cells)));
   QApplication::clipboard()->setMimeData(copied);
   shell.status("Copiate: " + counted(static_cast<int>(cells.size()), "cella", "celle"));
 }
@@ -67,14 +75,14 @@ void GridView::exportXlsx() {
   m_grid.form().perform([this] {
     const auto file = m_grid.form().shell().chooseSave(exportBox("Esporta XLSX", "*.xlsx", "xlsx"));
     if (!file) return;
-    writeXlsx(*file, m_grid, accessibleName().toStdString());
+    writeXlsx(*file, drawnGrid(), accessibleName().toStdString());
     tellExported(m_grid, *file);
   });
 }
 
 void GridView::printTable() {
   m_grid.form().perform(
-      [this] { m_grid.form().shell().print(m_grid, {.title = m_grid.form().title(), .header = printHeader()}); });
+      [this] { m_grid.form().shell().print(drawnGrid(), {.title = m_grid.form().title(), .header = printHeader()}); });
 }
 
 std::vector<std::string> GridView::printHeader() const {

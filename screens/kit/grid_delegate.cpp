@@ -24,7 +24,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
   const int row = m_view.gridModel().gridRow(index.row()), column = index.column();
   // The grid may be ahead of the model until control comes back to the event loop.
   if (row >= grid.rows() || column >= grid.columns()) return;
-  const Cell& cell = grid.at(row, column);
+  const Cell cell = m_view.drawnCell(row, column);
   const QRect& r = option.rect;
   const bool narrow = r.width() < kNarrowColumn;
   painter->fillRect(r, toColor(cell.back));

@@ -133,6 +133,16 @@ void GridView::followGrid() {
   viewport()->update();
 }
 
+Cell GridView::drawnCell(int row, int column) const {
+  Cell cell = m_grid.at(row, column);
+  if (!m_look.colours || row < m_grid.headingRows()) return cell;
+  const Cell colours = m_look.colours(column);
+  if (cell.back == kWhite) cell.back = colours.back;
+  if (cell.fore == kBlack) cell.fore = colours.fore;
+  cell.bold = cell.bold || colours.bold;
+  return cell;
+}
+
 bool GridView::continuesAbove(int row, int column) const {
   if (!m_grid.mergedColumns().contains(column) || row <= m_grid.headingRows() || row >= m_grid.rows()) return false;
   int above = row - 1;

@@ -33,6 +33,8 @@ struct GridLook {
   double points = 0;                 ///< size of the cells' font; 0: the base font
   bool fixedHeight = false;          ///< as high as its rows, no scroll bar
   bool atEnd = false;                ///< opens scrolled to its last row, and stays there when its size changes
+  /// What a cell without colours of its own is drawn with, by its column; the grid itself stays as it is.
+  std::function<Cell(int column)> colours = {};
   /// The tooltip of a cell, given its place in the grid.
   std::function<QString(int row, int column)> toolTip = {};
 };
@@ -67,6 +69,8 @@ class GridView : public QTableView {
   const QFont& headingFont() const { return m_headingFont; }
   /// Catches up with the grid now, without waiting for the event loop.
   void sync() { m_model->sync(); }
+  /// The cell as it is drawn: its own colours, else those of its column.
+  Cell drawnCell(int row, int column) const;
   /// True when the cell shows the same as the one above it in a merged column, so that no line parts them.
   bool continuesAbove(int row, int column) const;
   /// Left edge of a column of the grid inside this view and its width, for what stands exactly under it.
@@ -117,6 +121,7 @@ class GridView : public QTableView {
   void paintFrames(QPainter& painter);
   QRect rowRect(int modelRow) const;
   std::vector<std::pair<int, int>> chosenCells() const;
+  Grid drawnGrid() const;
   std::vector<std::string> printHeader() const;
   FileBox exportBox(const char* title, const char* filter, const char* extension) const;
 

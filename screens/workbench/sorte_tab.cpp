@@ -2,7 +2,9 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <string_view>
 
+#include "engine/colouring.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/formula_samples.h"
 
@@ -88,9 +90,18 @@ QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
 
   std::vector<Piece> left;
   if (above != nullptr) left.emplace_back(above);
-  GridView* const formulas =
-      kit.grid(names.formulas,
-               {.name = named("Formule"), .samples = formulaSamples(), .freePlaces = names.places, .tight = true});
+  // A row just added and one that a recount has restored are drawn alike.
+  const bool numbered = std::string_view(names.formulas) == w.Fg00.name();
+  const auto colours = [numbered](int column) {
+    Cell drawn = formulaColours(column);
+    drawn.bold = drawn.bold || (numbered && column == 0);
+    return drawn;
+  };
+  GridView* const formulas = kit.grid(names.formulas, {.name = named("Formule"),
+                                                       .samples = formulaSamples(),
+                                                       .freePlaces = names.places,
+                                                       .tight = true,
+                                                       .colours = colours});
   left.insert(left.end(), {{formulas, 1}, flow(verify), edit});
 
   std::vector<QWidget*> utilities = {quiet(names.print, "print"), quiet(names.copy, "copy"),

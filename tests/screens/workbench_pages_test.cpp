@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include "engine/colouring.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/lazy_page.h"
 #include "workbench_screen.h"
@@ -92,6 +93,51 @@ TEST(WorkbenchNames, TooltipsTellTheKeysOfTheirButtons) {
     EXPECT_TRUE(QToolTip::text().endsWith(QLatin1String(key))) << name << QToolTip::text().toStdString();
     QToolTip::hideText();
   }
+}
+
+// A recount colours the rows that a table held before, and adding a row colours nothing: the view draws both alike.
+TEST(WorkbenchFormulas, AreDrawnInOneColouringWhateverColouredThem) {
+  WorkbenchScreen world;
+  Workbench& w = world.world.w;
+  for (const TableTraits& table : kTables) {
+    w.SSTab3.set(table.code == 6 ? 4 : table.code - 1);
+    GridControl& formulas = w.formulas(table.table);
+    for (int row = 0; row < 2; ++row) WorkbenchWorld::addFormula(formulas, {.elements = {{1, 2}, {1, 2}}, .fix = 44});
+    for (int row = 1; row <= 2; ++row)
+      for (const int column : {0, 12, 13}) formulas.setText(row, column, "8");
+    // The first row as the recount leaves it.
+    Grid coloured = formulas;
+    if (table.table == Table::Lunghetta) {
+      Colora_fg00(w);
+      coloured = formulas;
+      for (int column = 0; column < formulas.columns(); ++column)
+        formulas.setCell(2, column, {.text = formulas.text(1, column)});
+    } else {
+      coloraFormule(coloured);
+      for (int column = 0; column < formulas.columns(); ++column) formulas.setCell(1, column, coloured.at(1, column));
+    }
+    ASSERT_EQ(formulas.back(1, 1), GialloChiaro);
+    const Grid before = formulas;
+    auto& view = world.find<GridView>(formulas.name());
+    for (int column = 0; column < formulas.columns(); ++column) {
+      EXPECT_EQ(view.drawnCell(2, column), view.drawnCell(1, column)) << formulas.name() << ", " << column;
+      if (view.isColumnHidden(column)) continue;
+      EXPECT_EQ(pictureOfCell(view, 2, column), pictureOfCell(view, 1, column)) << formulas.name() << ", " << column;
+    }
+    EXPECT_EQ(formulas.grid(), before) << "drawing leaves the data alone";
+    formulas.setBack(2, 13, VerdeMedio);
+    EXPECT_EQ(view.drawnCell(2, 13).back, VerdeMedio) << "a colour of its own stays";
+  }
+}
+
+TEST(WorkbenchPrint, AFormulaTableIsPrintedAsItIsDrawn) {
+  WorkbenchScreen world;
+  GridControl& formulas = world.world.w.Fg11;
+  WorkbenchWorld::addFormula(formulas, {.elements = {{1, 2}}, .fix = 44});
+  world.find<GridView>("Fg11").printTable();
+  ASSERT_EQ(world.world.shell.prints.size(), 1U);
+  EXPECT_EQ(world.world.shell.prints[0].grid.back(1, 1), GialloChiaro);
+  EXPECT_EQ(world.world.shell.prints[0].grid.at(1, 11), (Cell{.text = "44", .fore = Rosso, .bold = true}));
 }
 
 TEST(WorkbenchPrint, APrintTellsItsTableAndItsMethod) {
