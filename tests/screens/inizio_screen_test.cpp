@@ -68,6 +68,22 @@ TEST(InizioScreen, EnterIsProcediAndEscIsNothing) {
   EXPECT_EQ(world.shell.openScreens(), std::vector<std::string>{"Container"});
 }
 
+TEST(InizioScreen, EnterAfterTheChoiceOfAnArchiveIsProcedi) {
+  WindowWorld world;
+  world.start();
+  QAbstractButton& choose = world.button("INIZIO", "Command4");
+  choose.setFocus();
+  world.shell.files.push_back(world.files.folder / "Archivio.mdb");
+  QTest::keyClick(&choose, Qt::Key_Return);
+  settle();
+  ASSERT_EQ(world.shell.openScreens(), std::vector<std::string>{"INIZIO"});
+  QWidget* const focused = world.shell.widget("INIZIO")->focusWidget();
+  ASSERT_EQ(focused, &world.button("INIZIO", "Command2"));
+  QTest::keyClick(focused, Qt::Key_Return);
+  settle();
+  EXPECT_EQ(world.shell.openScreens(), std::vector<std::string>{"Container"});
+}
+
 TEST(InizioScreen, EnterOnAnotherButtonPressesThatOne) {
   WindowWorld world;
   world.start();
