@@ -37,5 +37,48 @@ TEST(PrintHeader, SaysNothingOfASituationThatWasNeverLookedFor) {
   EXPECT_EQ(methodHeader(world.w, {2026, 8, 22, 0, 0, 0}).size(), 2u);
 }
 
+TEST(PrintHeader, TellsTheSituationOfTheListedCasesAndNotTheOneBeingChosen) {
+  std::mt19937 rng(5);
+  WorkbenchWorld world(randomArchive(rng, 200));
+  Workbench& w = world.w;
+  WorkbenchWorld::choose(w.ComboFiltro, "Numeri");
+  w.TxtNumeri.set("07-13-21-35-44-50-62-70-81-90");
+  world.positions({1, 2, 3, 4, 5});
+  WorkbenchWorld::choose(w.ComboQNu, "2");
+  WorkbenchWorld::choose(w.ComboRetro, "1");
+  world.press("Command44");
+  const std::string told = methodHeader(w, {2026, 8, 22, 10, 30, 0}).front();
+  EXPECT_EQ(told.substr(0, told.find(';')),
+            "Situazione: Numeri 07-13-21-35-44-50-62-70-81-90, ruota BA, posizioni 1 2 3 4 5, QN 2, retro 1");
+  w.TxtNumeri.set("01");
+  WorkbenchWorld::choose(w.ComboQNu, "3");
+  EXPECT_EQ(methodHeader(w, {2026, 8, 22, 10, 30, 0}).front(), told);
+}
+
+TEST(PrintHeader, TellsWhatNarrowsTheSearchOnTwoWheels) {
+  std::mt19937 rng(5);
+  WorkbenchWorld world(randomArchive(rng, 200));
+  Workbench& w = world.w;
+  WorkbenchWorld::choose(w.ComboFiltro, "Distanza");
+  w.TxtNumeri.set("09");
+  w.Ch_analisi2ruote.set(true);
+  for (const int wheel : {0, 1}) w.FgRR.clickCell(0, wheel);
+  world.positions({1, 2, 3, 4, 5});
+  w.Ch_ISO.set(true);
+  w.ChDDS.set(true);
+  world.press("Command44");
+  const std::string told = methodHeader(w, {2026, 8, 22, 10, 30, 0}).front();
+  EXPECT_EQ(told.substr(0, told.find(';')),
+            "Situazione: Distanza 09, ruote BA CA, posizioni 1 2 3 4 5, rapporto 1:1, isotopi");
+}
+
+TEST(PrintHeader, TellsAPureNumberAsANumber) {
+  std::mt19937 rng(5);
+  WorkbenchWorld world(randomArchive(rng, 50));
+  WorkbenchWorld::addFormula(world.w.Fg22, {.fix = 44, .nr = "0"});
+  const std::vector<std::string> lines = methodHeader(world.w, {2026, 8, 22, 0, 0, 0});
+  EXPECT_EQ(lines.at(lines.size() - 2), "Ambi: numero 44");
+}
+
 }  // namespace
 }  // namespace trv5
