@@ -35,12 +35,13 @@ class Sheet {
   }
 
   int print(QPagedPaintDevice& device, double width, double height) {
+    layOutTitle(width);
     const QFontMetricsF metrics(m_font);
     PageRequest request{.columnWidths = {},
                         .rows = static_cast<int>(m_rows.size()),
                         .rowHeight = metrics.height() + 3,
                         .headingHeight = m_grid.headingRows() > 0 ? metrics.height() + 5 : 0,
-                        .titleHeight = titleLines() == 0 ? 0 : titleLines() * metrics.height() + 8,
+                        .titleHeight = m_title.empty() ? 0 : static_cast<double>(m_title.size()) * metrics.height() + 8,
                         .pageWidth = width,
                         // The foot holds the number of the page.
                         .pageHeight = height - metrics.height() - 4};
@@ -63,22 +64,40 @@ class Sheet {
   }
 
  private:
-  int titleLines() const { return (m_setup.title.empty() ? 0 : 1) + static_cast<int>(m_setup.header.size()); }
+  struct TitleLine {
+    QString text;
+    bool bold;
+  };
 
-  // The title and the lines below it, each cut short where the paper ends.
-  void paintTitle(double width) {
-    const QFontMetricsF metrics(m_font), bold(m_bold);
+  // The title and the lines below it, none cut short: what doesn't fit on the paper goes on in the next line, indented.
+  void layOutTitle(double width) {
+    if (!m_setup.title.empty()) addTitle(qs(m_setup.title), true, width);
+    for (std::size_t i = 0; i < m_setup.header.size(); ++i) addTitle(qs(m_setup.header[i]), i == 0, width);
+  }
+
+  void addTitle(const QString& text, bool bold, double width) {
+    const QFontMetricsF metrics(bold ? m_bold : m_font);
+    QString line;
+    for (const QString& word : text.split(u' ')) {
+      const QString longer = line.isEmpty() ? word : line + u' ' + word;
+      if (line.isEmpty() || metrics.horizontalAdvance(longer) <= width) {
+        line = longer;
+        continue;
+      }
+      m_title.push_back({line, bold});
+      line = QStringLiteral("    ") + word;
+    }
+    m_title.push_back({line, bold});
+  }
+
+  void paintTitle(double width, double height) {
     m_painter.setPen(toColor(kInk));
     double y = 0;
-    const auto line = [&](const std::string& text, const QFont& font, const QFontMetricsF& sizes) {
-      m_painter.setFont(font);
-      m_painter.drawText(QRectF(0, y, width, metrics.height()), Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
-                         sizes.elidedText(qs(text), Qt::ElideRight, width));
-      y += metrics.height();
-    };
-    if (!m_setup.title.empty()) line(m_setup.title, m_bold, bold);
-    for (std::size_t i = 0; i < m_setup.header.size(); ++i)
-      i == 0 ? line(m_setup.header[i], m_bold, bold) : line(m_setup.header[i], m_font, metrics);
+    for (const TitleLine& line : m_title) {
+      m_painter.setFont(line.bold ? m_bold : m_font);
+      m_painter.drawText(QRectF(0, y, width, height), Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, line.text);
+      y += QFontMetricsF(m_font).height();
+    }
   }
 
   double widthOf(int column) const {
@@ -93,7 +112,7 @@ class Sheet {
   void paint(const Page& page, const PageRequest& request) {
     double y = 0;
     if (request.titleHeight > 0) {
-      paintTitle(request.pageWidth / m_scale);
+      paintTitle(request.pageWidth / m_scale, request.titleHeight);
       y += request.titleHeight;
     }
     if (request.headingHeight > 0) {
@@ -132,6 +151,7 @@ class Sheet {
   double m_unit, m_scale = 1;
   QFont m_font, m_bold;
   std::vector<int> m_rows, m_columns;
+  std::vector<TitleLine> m_title;
 };
 
 }  // namespace

@@ -50,6 +50,17 @@ TEST(GridPrint, AWideTableGoesOnOverFurtherPagesAndIsNotCutOff) {
   EXPECT_EQ(pagesOf(readBytes(folder / "a.pdf")), pages);
 }
 
+TEST(GridPrint, ALongLineAboveTheTableGoesOnInTheNextAndIsNotCutOff) {
+  const TempFolder folder;
+  int fits = 10;  // rows of a full page below one line
+  while (printToPdf(table(fits + 1, 5), {.header = {"Ambate"}}, folder / "a.pdf") == 1) ++fits;
+  std::string formulas = "Lunghetta:";
+  for (int i = 0; i < 40; ++i) formulas += " BA1 CA2 N1 X N2 fix 90 D x U;";
+  EXPECT_EQ(printToPdf(table(fits, 5), {.header = {formulas}}, folder / "a.pdf"), 2);
+  // 1,200 characters are some eight lines across an A4.
+  EXPECT_EQ(printToPdf(table(fits - 12, 5), {.header = {formulas}}, folder / "a.pdf"), 1);
+}
+
 TEST(GridPrint, MarginsAreTwentiethsOfAPoint) {
   const QPageLayout layout = printLayout({.horizontalMargin = 450, .verticalMargin = 400});
   EXPECT_EQ(layout.orientation(), QPageLayout::Landscape);
