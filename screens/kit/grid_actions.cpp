@@ -81,8 +81,14 @@ void GridView::exportXlsx() {
 }
 
 void GridView::printTable() {
-  m_grid.form().perform(
-      [this] { m_grid.form().shell().print(drawnGrid(), {.title = m_grid.form().title(), .header = printHeader()}); });
+  sync();
+  m_grid.form().perform([this] {
+    Grid printed = drawnGrid();
+    // Columns that are folded away, being empty, would be room wasted on paper.
+    for (int column = 0; column < printed.columns(); ++column)
+      if (isColumnHidden(column)) printed.setColumnHidden(column);
+    m_grid.form().shell().print(printed, {.title = m_grid.form().title(), .header = printHeader()});
+  });
 }
 
 std::vector<std::string> GridView::printHeader() const {

@@ -107,6 +107,19 @@ TEST(GridActions, SayWhatTheyDidWhereItIsOutOfSight) {
   EXPECT_EQ(shell.statusTexts.size(), told) << "a cancelled export has done nothing";
 }
 
+TEST(GridActions, PrintTheColumnsThatAreInSight) {
+  FakeShell shell;
+  Form form(shell, "Prova", "Prova");
+  GridControl grid(form, "FgEv", "a|b|c");
+  fill(grid, 2);
+  GridView view(grid, {.folded = {1, 2}});
+  grid.setText(2, 2, "FI");
+  view.printTable();
+  ASSERT_EQ(shell.prints.size(), 1U);
+  EXPECT_TRUE(shell.prints[0].grid.columnHidden(1)) << "empty, and folded away on screen";
+  EXPECT_FALSE(shell.prints[0].grid.columnHidden(2));
+}
+
 // Keeps what a box for a file to save was asked with.
 class SavingShell : public FakeShell {
  public:
