@@ -63,6 +63,7 @@ QWidget* archivePanel(Kit& kit, QPushButton* choose) {
 
 InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
   setWindowIcon(programMark());
+  Theme::edit().dressWindow(*this);
 
   QPushButton* const choose = kit.button("Command4", {.icon = "folder", .mnemonic = 'A'});
   QPushButton* const proceed =

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QFontMetrics>
 #include <QPainter>
@@ -34,18 +35,20 @@ class UnitStyle : public QProxyStyle {
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     // Qt's own dialogs are laid out as Qt means them.
-    const bool own = widget == nullptr || !widget->window()->inherits("QDialog");
+    const auto own = [widget] {
+      return widget == nullptr || qobject_cast<const QDialog*>(widget->window()) == nullptr;
+    };
     switch (metric) {
       case PM_LayoutHorizontalSpacing:
       case PM_LayoutVerticalSpacing:
-        if (own) return m_theme.unit();
+        if (own()) return m_theme.unit();
         break;
       case PM_LayoutLeftMargin:
       case PM_LayoutTopMargin:
       case PM_LayoutRightMargin:
       case PM_LayoutBottomMargin:
         // Padding belongs to panels and windows; pages and rows inside them begin at the same edge.
-        if (own && widget != nullptr) return padding(metric, *widget);
+        if (widget != nullptr && own()) return padding(metric, *widget);
         break;
       case PM_ButtonIconSize:
       case PM_SmallIconSize:
@@ -183,7 +186,6 @@ Theme::Theme(QApplication& app) : m_app(app), m_desktopDark(desktopIsDark()), m_
 
 Theme::~Theme() {
   // The style asks the theme as long as it is in use.
-  m_app.setStyleSheet(QString());
   m_app.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 }
 
@@ -235,51 +237,37 @@ double Theme::smallPoints() const {
   return std::max(9.5, basePoints() - 1.0);
 }
 
-QFont Theme::base() const {
+// Asked for at each layout of each row: made once a change.
+void Theme::measure() {
   QFont font;
   font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
   font.setPointSizeF(basePoints());
-  return font;
-}
-
-QFont Theme::small(bool strong) const {
-  QFont font = base();
-  font.setPointSizeF(smallPoints());
-  if (strong) font.setWeight(QFont::DemiBold);
-  return font;
-}
-
-QFont Theme::title() const {
-  QFont font = base();
-  font.setWeight(QFont::DemiBold);
-  return font;
-}
-
-QFont Theme::large() const {
-  QFont font = title();
-  font.setPointSizeF(largePoints());
-  return font;
-}
-
-// Line of the base font without its leading: 19 px at 10.5 pt, 18 px at 10 pt.
-int Theme::lineHeight() const {
-  return QFontMetrics(base()).height();
+  m_base = m_small = m_title = font;
+  m_small.setPointSizeF(smallPoints());
+  m_smallStrong = m_small;
+  m_smallStrong.setWeight(QFont::DemiBold);
+  m_title.setWeight(QFont::DemiBold);
+  m_large = m_title;
+  m_large.setPointSizeF(largePoints());
+  // Without its leading: 19 px at 10.5 pt, 18 px at 10 pt.
+  m_line = QFontMetrics(m_base).height();
+  m_smallLine = QFontMetrics(m_smallStrong).height();
 }
 
 int Theme::row() const {
-  return lineHeight() + (m_density == Density::Compact ? 2 : 5);
+  return m_line + (m_density == Density::Compact ? 2 : 5);
 }
 
 int Theme::heading() const {
-  return QFontMetrics(small(true)).height() + (m_density == Density::Compact ? 5 : 8);
+  return m_smallLine + (m_density == Density::Compact ? 5 : 8);
 }
 
 int Theme::control() const {
-  return lineHeight() + (m_density == Density::Compact ? 8 : 11);
+  return m_line + (m_density == Density::Compact ? 8 : 11);
 }
 
 int Theme::unit() const {
-  return m_density == Density::Compact ? lineHeight() / 3 : lineHeight() * 8 / 19;
+  return m_density == Density::Compact ? m_line / 3 : m_line * 8 / 19;
 }
 
 QString Theme::styleSheet() const {
@@ -317,10 +305,17 @@ QString Theme::styleSheet() const {
 
 void Theme::apply() {
   Q_EMIT aboutToChange();
+  measure();
   m_app.setPalette(paletteOf(colours()));
   m_app.setFont(base());
-  m_app.setStyleSheet(styleSheet());
+  m_windows.removeAll(nullptr);
+  for (QWidget* const window : std::as_const(m_windows)) window->setStyleSheet(styleSheet());
   Q_EMIT changed();
+}
+
+void Theme::dressWindow(QWidget& window) {
+  m_windows.append(&window);
+  window.setStyleSheet(styleSheet());
 }
 
 void withTheme(QObject& owner, const std::function<void()>& set) {

@@ -2,8 +2,11 @@
 
 #include <QColor>
 #include <QFont>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <functional>
 
 #include "core/palette.h"
@@ -75,7 +78,7 @@ inline QString qs(const std::string& text) {
 
 /// Gives the program its looks: Fusion, the palette, the type scale and one style sheet. Made once, in main, after the
 /// application, which it belongs to, and before the first widget; it goes after the last widget and before the
-/// application. Widgets ask it for colours and sizes and follow `changed`.
+/// application. Widgets ask it for colours and sizes and follow `changed`; windows wear its style sheet.
 class Theme : public QObject {
   Q_OBJECT
  public:
@@ -106,10 +109,10 @@ class Theme : public QObject {
   double largePoints() const { return basePoints() * 1.35; }
   void stepBase(double points) { setBasePoints(basePoints() + points); }
 
-  QFont base() const;
-  QFont small(bool strong = false) const;
-  QFont title() const;
-  QFont large() const;
+  const QFont& base() const { return m_base; }
+  const QFont& small(bool strong = false) const { return strong ? m_smallStrong : m_small; }
+  const QFont& title() const { return m_title; }
+  const QFont& large() const { return m_large; }
 
   int row() const;      ///< height of a grid's row
   int heading() const;  ///< height of a grid's heading
@@ -119,6 +122,10 @@ class Theme : public QObject {
 
   /// The style sheet for these colours and sizes.
   QString styleSheet() const;
+  /// Gives the style sheet to a window and all that is put into it, also after each change. It is the windows' and not
+  /// the application's: of the latter a widget is polished anew with each of the parents that it gets while its screen
+  /// is built.
+  void dressWindow(QWidget& window);
 
  Q_SIGNALS:
   /// Colours or sizes are still the former ones.
@@ -128,7 +135,7 @@ class Theme : public QObject {
 
  private:
   static Theme* of(const QApplication& app);
-  int lineHeight() const;
+  void measure();
   void apply();
 
   QApplication& m_app;
@@ -136,6 +143,9 @@ class Theme : public QObject {
   Scheme m_scheme = Scheme::System;
   Density m_density = Density::Comfortable;
   double m_points = 0;
+  QFont m_base, m_small, m_smallStrong, m_title, m_large;
+  int m_line = 0, m_smallLine = 0;  // heights of their lines
+  QList<QPointer<QWidget>> m_windows;
 };
 
 /// Runs `set` now and after each change of the theme, as long as `owner` lives: for sizes that come from the font.

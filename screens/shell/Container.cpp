@@ -61,6 +61,7 @@ ContainerScreen::ContainerScreen(Container& form)
     QMetaObject::invokeMethod(this, &ContainerScreen::fitSmallWindows, Qt::QueuedConnection);
   });
   setWide(true);
+  Theme::edit().dressWindow(*this);
 }
 
 ContainerScreen::~ContainerScreen() {

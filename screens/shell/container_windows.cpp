@@ -69,10 +69,10 @@ QMdiSubWindow* ContainerScreen::windowOf(const QWidget& screen) const {
 
 void ContainerScreen::place(QWidget& screen, const ScreenEntry& entry) {
   auto* const window = new QMdiSubWindow;
-  window->setWidget(&screen);
   window->setAttribute(Qt::WA_DeleteOnClose, false);
   window->installEventFilter(this);
   m_area->addSubWindow(window);
+  window->setWidget(&screen);  // once for all: each other parent would cost the whole screen its looks
   if (entry.place == Place::Fills) {
     window->setWindowFlags(Qt::SubWindow | Qt::FramelessWindowHint);
     window->showMaximized();

@@ -77,6 +77,7 @@ HelpViewer::HelpViewer(QWidget* parent)
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("TRV 5: Help in linea"));
   setWindowIcon(programMark());
+  Theme::edit().dressWindow(*this);
   m_browser->setObjectName(QStringLiteral("pagina"));
   m_browser->setProperty("lines", true);
   m_browser->setOpenLinks(false);

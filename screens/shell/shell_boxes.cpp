@@ -40,6 +40,7 @@ int boxWidth(const QWidget& box) {
 }
 
 void prepare(QMessageBox& box, const Box& what) {
+  if (box.parentWidget() == nullptr) Theme::edit().dressWindow(box);
   box.setWindowTitle(qs(what.title));
   box.setText(qs(what.text));
   box.setInformativeText(qs(what.reason));

@@ -60,9 +60,11 @@ TEST_F(Bindings, AButtonWithoutCaptionIsKnownByItsTooltip) {
 
 TEST_F(Bindings, DataColoursOfAControlHaveReadableInk) {
   Button control(world.form, "Cmd_LaSorte_1", "1");
-  QPushButton widget;
+  QWidget window;
+  QPushButton widget(&window);
   bind(widget, control);
-  shown(widget, 60, 30);
+  widget.resize(60, 30);
+  shown(window, 60, 30);
   control.setBack(0x00FF00);
   settle();
   QImage picture = widget.grab().toImage();

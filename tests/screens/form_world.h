@@ -7,6 +7,7 @@
 #include "core/controls.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/ink.h"
+#include "screens/kit/theme.h"
 #include "support/fake_shell.h"
 
 namespace trv5 {
@@ -25,9 +26,10 @@ inline void settle() {
   }
 }
 
-/// A shown widget of that size.
+/// A shown widget of that size, with the looks of the program.
 template <class Widget>
 Widget& shown(Widget& widget, int width, int height) {
+  if (widget.parentWidget() == nullptr) Theme::edit().dressWindow(widget);
   widget.resize(width, height);
   widget.show();
   settle();

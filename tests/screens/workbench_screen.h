@@ -21,6 +21,7 @@ struct WorkbenchScreen {
           return randomArchive(rng, 400);
         }()),
         screen(std::make_unique<Sommativi1Screen>(world.w)) {
+    Theme::edit().dressWindow(*screen);
     resize(window);
     makePages(*screen);
     screen->show();
