@@ -7,6 +7,15 @@
 #include "screens/kit/theme.h"
 
 namespace trv5 {
+namespace {
+
+// Samples and headings are measured again at each layout of each column.
+int advance(QHash<QString, int>& known, const QFont& font, const QString& text) {
+  const auto found = known.constFind(text);
+  return found != known.constEnd() ? *found : *known.insert(text, QFontMetrics(font).horizontalAdvance(text));
+}
+
+}  // namespace
 
 bool GridView::atEnd() const {
   return m_look.atEnd && verticalScrollBar()->value() == verticalScrollBar()->maximum();
@@ -18,20 +27,20 @@ std::pair<int, int> GridView::columnSpan(int column) const {
 }
 
 int GridView::naturalWidth(int column) const {
-  const QFontMetrics cells(m_cellFont), headings(m_headingFont);
-  int width = cells.horizontalAdvance(u'8');
+  const auto inCells = [this](const QString& text) { return advance(m_cellAdvances, m_cellFont, text); };
+  int width = inCells(QStringLiteral("8"));
   if (column >= m_grid.columns()) return width;  // gone from the grid, not yet from the model
   const QString heading = m_grid.headingRows() > 0 ? qs(m_grid.text(0, column)) : QString();
   const QString sample = static_cast<std::size_t>(column) < m_look.samples.size()
                              ? m_look.samples[static_cast<std::size_t>(column)]
                              : QString();
   if (m_look.even && m_look.minColumn > 0 && column >= m_look.evenFrom) return m_look.minColumn;
-  width = std::max({width, cells.horizontalAdvance(sample),
-                    headings.horizontalAdvance(sample.isEmpty() ? heading : heading.trimmed())});
+  width = std::max({width, inCells(sample),
+                    advance(m_headingAdvances, m_headingFont, sample.isEmpty() ? heading : heading.trimmed())});
   if (sample.isEmpty() && heading.isEmpty() && m_grid.width(column) > 0)
     return m_grid.width(column) / 15;  // the grid's own unit is a twentieth of a point, 15 of them a pixel
   if (sample.isEmpty() && heading.isEmpty() && m_grid.hasData())
-    width = std::max(width, cells.horizontalAdvance(qs(m_grid.text(m_grid.headingRows(), column))));
+    width = std::max(width, QFontMetrics(m_cellFont).horizontalAdvance(qs(m_grid.text(m_grid.headingRows(), column))));
   return width + (m_look.tight ? 4 : Theme::current().unit() + 4);
 }
 

@@ -72,6 +72,8 @@ void GridView::followTheme() {
   m_strongFont = m_cellFont;
   m_strongFont.setWeight(QFont::DemiBold);
   m_headingFont = theme.small(true);
+  m_cellAdvances.clear();
+  m_headingAdvances.clear();
   horizontalHeader()->setFixedHeight(theme.heading());
   // A strip of keys stands among buttons and lists, as high as they are.
   const int row = m_look.pad && m_look.fixedHeight ? theme.control() - 2 * frameWidth() : theme.row();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QTableView>
 #include <functional>
 #include <map>
@@ -129,11 +130,12 @@ class GridView : public QTableView {
   GridLook m_look;
   GridModel* m_model;
   QFont m_cellFont, m_strongFont, m_headingFont;
-  std::set<int> m_hiddenRows;             // as last given to the view, grid's counting
-  std::map<int, int> m_userWidths;        // of columns that the user or "Adatta colonne" set
-  int m_lastRows = 0;                     // of the model when the view last followed it
-  int m_fitsAsked = 0, m_showsAsked = 0;  // by the grid, as far as the view has followed
-  bool m_keepEnd = false;                 // the theme changes while the last row is in sight
+  mutable QHash<QString, int> m_cellAdvances, m_headingAdvances;  // widths of texts already met in these fonts
+  std::set<int> m_hiddenRows;                                     // as last given to the view, grid's counting
+  std::map<int, int> m_userWidths;                                // of columns that the user or "Adatta colonne" set
+  int m_lastRows = 0;                                             // of the model when the view last followed it
+  int m_fitsAsked = 0, m_showsAsked = 0;                          // by the grid, as far as the view has followed
+  bool m_keepEnd = false;                                         // the theme changes while the last row is in sight
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click
   std::pair<int, int> m_pressed{-1, -1};    // cell under the press, grid's counting

@@ -135,6 +135,8 @@ QtShell::Open& QtShell::open(const ScreenEntry& entry) {
     close(entry.name);
     throw;
   }
+  // The panel folds first: a screen is laid out once, for the room that it keeps.
+  tellShellWindow();
   place(opened);
   return opened;
 }

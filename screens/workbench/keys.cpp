@@ -1,4 +1,5 @@
 // The keys of the workbench, and the way of the Tab key through it.
+#include <QHash>
 #include <QHelpEvent>
 #include <QShortcut>
 #include <QTabBar>
@@ -135,9 +136,12 @@ void Sommativi1Screen::tellKeys() {
 }
 
 void Sommativi1Screen::orderTabs() {
+  QHash<QString, QWidget*> named;
+  for (auto* const widget : findChildren<QWidget*>())
+    if (!widget->objectName().isEmpty()) named.insert(widget->objectName(), widget);
   QWidget* before = nullptr;
   for (const char* const name : kRoad) {
-    auto* widget = findChild<QWidget*>(QLatin1String(name));
+    QWidget* widget = named.value(QLatin1String(name));
     if (widget == nullptr) continue;
     // The pages of a tab widget are inside it: it is the bar that comes before them.
     if (auto* const tabs = qobject_cast<QTabWidget*>(widget)) widget = tabs->tabBar();
