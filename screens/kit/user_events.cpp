@@ -5,7 +5,9 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QToolButton>
 #include <array>
 #include <utility>
 
@@ -38,6 +40,15 @@ QString characterOf(const QKeyEvent& event) {
 // The focus is the user's, and stays the control's, while a list, a menu or another program is in front.
 bool passing(Qt::FocusReason reason) {
   return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+// Enter presses the button with the focus as Space does; check boxes and option buttons have Space alone.
+bool pressByEnter(QWidget& widget, const QKeyEvent& event) {
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (!enter || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+  if (qobject_cast<QPushButton*>(&widget) == nullptr && qobject_cast<QToolButton*>(&widget) == nullptr) return false;
+  if (!event.isAutoRepeat()) static_cast<QAbstractButton&>(widget).click();
+  return true;
 }
 
 // Across windows too: the open list of a combo is one.
@@ -90,7 +101,9 @@ bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
       if (watched == m_focused) focusOut(static_cast<const QFocusEvent&>(*event));
       break;
     case QEvent::KeyPress:
-      if (watched == m_focused && m_control.offerKey(keyFrom(static_cast<const QKeyEvent&>(*event)))) return true;
+      if (watched != m_focused) break;
+      if (m_control.offerKey(keyFrom(static_cast<const QKeyEvent&>(*event)))) return true;
+      if (pressByEnter(m_widget, static_cast<const QKeyEvent&>(*event))) return true;
       break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

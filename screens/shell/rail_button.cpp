@@ -1,5 +1,6 @@
 #include "screens/shell/rail_button.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -43,6 +44,13 @@ QSize RailButton::minimumSizeHint() const {
   const QSize hint = sizeHint();
   const QFontMetrics metrics(m_large ? Theme::current().large() : font());
   return {hint.width(), std::min(hint.height(), std::max(kIcon, metrics.height()) + 8)};
+}
+
+void RailButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    click();
+  else
+    QToolButton::keyPressEvent(event);
 }
 
 void RailButton::paintEvent(QPaintEvent*) {

@@ -21,6 +21,7 @@ class RailButton : public QToolButton {
   QSize minimumSizeHint() const override;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

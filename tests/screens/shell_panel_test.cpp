@@ -31,6 +31,19 @@ struct OpenPanel : WindowWorld {
   QWidget* box = nullptr;
 };
 
+TEST(ShellPanel, EnterPressesItsButtons) {
+  WindowWorld world;
+  ContainerScreen& window = world.proceed();
+  QToolButton* menu = nullptr;
+  for (auto* const button : window.findChildren<QToolButton*>())
+    if (button->toolTip().contains(QStringLiteral("F4"))) menu = button;
+  ASSERT_NE(menu, nullptr);
+  const bool wide = window.railWide();
+  menu->setFocus();
+  QTest::keyClick(menu, Qt::Key_Return);
+  EXPECT_NE(window.railWide(), wide);
+}
+
 TEST(ShellPanel, TakesTheFocusAndEscGivesItBack) {
   OpenPanel world;
   ASSERT_TRUE(world.window.railWide());

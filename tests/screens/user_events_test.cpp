@@ -49,6 +49,18 @@ struct Entering : testing::Test {
   Log log;
 };
 
+TEST_F(Entering, EnterAndSpacePressTheButtonWithTheFocus) {
+  int pressed = 0;
+  save.onEvent([&] { ++pressed; });
+  button.setAutoDefault(false);
+  button.setFocus();
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) QTest::keyClick(&button, key);
+  EXPECT_EQ(pressed, 3);
+  save.setEnabled(false);
+  QTest::keyClick(&button, Qt::Key_Return);
+  EXPECT_EQ(pressed, 3);
+}
+
 TEST_F(Entering, TheFocusOfTheWindowIsTheControls) {
   edits[1].setFocus();
   EXPECT_EQ(world.form.focused(), &boxes[1]);
