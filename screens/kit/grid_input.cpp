@@ -100,10 +100,14 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {
+  // The cells of a pad are keys: who comes by the keyboard stands on the first of them, or where he stood.
+  const Qt::FocusReason reason = event->reason();
+  const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+  const bool onKey = m_look.pad && (byKey || currentIndex().isValid());
   // Qt makes the first cell current with the focus; the current row is data here, and stays as it is.
   m_following = true;
   QTableView::focusInEvent(event);
-  if (m_grid.current() < m_grid.headingRows()) selectionModel()->clearCurrentIndex();
+  if (m_grid.current() < m_grid.headingRows() && !onKey) selectionModel()->clearCurrentIndex();
   m_following = false;
   viewport()->update();
 }

@@ -97,10 +97,10 @@ void GridView::paintFrames(QPainter& painter) {
     }
   }
   const int current = m_model->modelRow(m_grid.current());
-  if (current < 0 || current >= m_model->rowCount() || isRowHidden(current)) return;
-  const QRect row = rowRect(current);
+  const bool inSight = current >= 0 && current < m_model->rowCount() && !isRowHidden(current);
+  const QRect row = inSight ? rowRect(current) : QRect();
   if (!m_look.pad && row.intersects(viewport()->rect())) frame(row.adjusted(0, 0, 0, -1), 3, 2, toColor(kRowFrame));
-  if (hasFocus() && currentIndex().isValid() && chosen.size() <= 1)
+  if ((inSight || m_look.pad) && hasFocus() && currentIndex().isValid() && chosen.size() <= 1)
     frame(visualRect(currentIndex()).adjusted(0, 0, -1, -1), 2, 2, accent);
 }
 

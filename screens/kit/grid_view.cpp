@@ -114,7 +114,7 @@ void GridView::followGrid() {
   }
   const int current = m_grid.current();
   if (current < heading) {
-    selectionModel()->clear();
+    if (!m_look.pad || !hasFocus()) selectionModel()->clear();
   } else if (currentIndex().row() != m_model->modelRow(current) || currentIndex().column() != m_grid.currentColumn()) {
     const QModelIndex index = m_model->index(m_model->modelRow(current), m_grid.currentColumn());
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);

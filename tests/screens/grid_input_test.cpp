@@ -98,6 +98,28 @@ TEST_F(GridInputTest, TheFocusAloneMakesNoRowCurrent) {
   EXPECT_EQ(grid.current(), 1);
 }
 
+TEST_F(GridInputTest, AKeyThatEntersAPadStandsOnItsFirstCell) {
+  GridControl grid(world.form, "FgNu", 3, 3);
+  std::vector<std::pair<int, int>> clicked;
+  grid.onCellClick([&](int row, int column) { clicked.emplace_back(row, column); });
+  GridView view(grid, {.pad = true});
+  shown(view, 300, 300);
+  view.setFocus(Qt::MouseFocusReason);
+  settle();
+  EXPECT_FALSE(view.currentIndex().isValid());
+  view.clearFocus();
+  view.setFocus(Qt::TabFocusReason);
+  settle();
+  EXPECT_EQ(grid.current(), -1);
+  EXPECT_TRUE(hasColour(pictureOfCell(view, 0, 0), kLightColours.accent, 0.05));
+  EXPECT_FALSE(hasColour(pictureOfCell(view, 1, 1), kLightColours.accent));
+  QTest::keyClick(&view, Qt::Key_Space);
+  settle();
+  QTest::keyClick(&view, Qt::Key_Right);
+  QTest::keyClick(&view, Qt::Key_Space);
+  EXPECT_EQ(clicked, (std::vector<std::pair<int, int>>{{0, 0}, {0, 1}}));
+}
+
 TEST_F(GridInputTest, ArrowKeysMoveTheCurrentRowWithoutAClick) {
   GridControl grid(world.form, "FgF", "a|b");
   fill(grid, 5);
