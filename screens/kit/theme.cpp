@@ -125,6 +125,8 @@ class UnitStyle : public QProxyStyle {
                 QStyleHintReturn* data) const override {
     // Nothing moves by itself.
     if (hint == SH_Widget_Animation_Duration) return 0;
+    // Some desktops put green and red pictures on the buttons of boxes: colours belong to the data.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 

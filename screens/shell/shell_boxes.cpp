@@ -97,8 +97,10 @@ std::optional<std::string> QtShell::input(const InputBox& box) {
   dialog.setTextValue(qs(box.initial));
   dialog.setOkButtonText(QStringLiteral("OK"));
   dialog.setCancelButtonText(QStringLiteral("Annulla"));
-  dialog.setMinimumWidth(boxWidth(dialog));
-  if (auto* const line = dialog.findChild<QLineEdit*>()) line->setPlaceholderText(qs(box.placeholder));
+  if (auto* const line = dialog.findChild<QLineEdit*>()) {
+    line->setPlaceholderText(qs(box.placeholder));
+    line->setMinimumWidth(boxWidth(dialog));  // the dialog's own least width is its layout's
+  }
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.textValue().toStdString();
 }
