@@ -16,7 +16,7 @@ constexpr int kIcon = 24;
 
 RailButton::RailButton(const QString& iconName, QWidget* parent) : QToolButton(parent) {
   setIcon(trv5::icon(iconName));
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::TabFocus);  // a click leaves the keys to the screen in front
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 

@@ -44,6 +44,24 @@ TEST(ShellPanel, EnterPressesItsButtons) {
   EXPECT_NE(window.railWide(), wide);
 }
 
+TEST(ShellPanel, AClickOnItsButtonsLeavesTheFocusToTheScreenAndItsKeys) {
+  WindowWorld world;
+  ContainerScreen& window = world.proceed();
+  world.button("Container", "Command4").click();
+  settle();
+  auto* const box = world.shell.widget("Sommativi1")->findChild<QWidget*>(QStringLiteral("Text1"));
+  box->setFocus();
+  int pressed = 0;
+  for (auto* const button : window.findChild<QWidget*>(QStringLiteral("rail"))->findChildren<QToolButton*>()) {
+    if (!button->isVisible() || !button->isEnabled() || button->menu() != nullptr) continue;
+    ++pressed;
+    QTest::mousePress(button, Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), box) << button->toolTip().toStdString();
+    QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-50, -50));
+  }
+  EXPECT_GT(pressed, 1);
+}
+
 TEST(ShellPanel, TakesTheFocusAndEscGivesItBack) {
   OpenPanel world;
   ASSERT_TRUE(world.window.railWide());
