@@ -282,6 +282,8 @@ void Grid::setListener(std::function<void(const GridChange&)> listener) {
 }
 
 void Grid::notify(GridChange change) {
+  ++m_revision;
+  if (change.what != GridChange::What::Current) ++m_cellsRevision;
   if (m_batch > 0) {
     m_pending = true;
   } else if (m_listener) {

@@ -1,32 +1,19 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "core/palette.h"
+#include "core/cell.h"
+#include "core/grid_state.h"
 
 namespace trv5 {
-
-/// One cell of a grid. A white back and a black ink are the same as none.
-struct Cell {
-  std::string text;
-  Rgb back = kWhite;
-  Rgb fore = kBlack;
-  bool bold = false;
-  bool operator==(const Cell&) const = default;
-};
-
-/// A bar drawn in a cell: filled from the left over `percent` (0..100) of the cell's width.
-struct Bar {
-  double percent = 0;
-  Rgb colour = kWhite;
-  bool operator==(const Bar&) const = default;
-};
 
 /// What a grid tells its listener.
 struct GridChange {
@@ -127,6 +114,15 @@ class Grid {
   /// Equal when all that a user could see or an operation read is equal.
   bool operator==(const Grid& other) const;
 
+  /// Counts the changes of what it holds and shows; the current row alone doesn't count.
+  std::uint64_t cellsRevision() const { return m_cellsRevision; }
+  /// The same, with the current row.
+  std::uint64_t revision() const { return m_revision; }
+  /// Shares its cells with the state taken before while they are the same.
+  GridState state() const;
+  /// Puts a state back, with one notice; none where nothing differs.
+  void restore(const GridState& state);
+
   /// Called after each change, or once after a batch; empty when who listens goes. Throws std::logic_error when the
   /// grid has a listener.
   void setListener(std::function<void(const GridChange&)> listener);
@@ -164,6 +160,11 @@ class Grid {
   std::function<void(const GridChange&)> m_listener;
   int m_batch = 0;
   bool m_pending = false;
+
+  std::uint64_t m_revision = 0, m_cellsRevision = 0;
+  // The cells as the last state holds them, and when that was.
+  mutable std::shared_ptr<const PackedCells> m_packed;
+  mutable std::uint64_t m_packedAt = 0;
 };
 
 }  // namespace trv5
