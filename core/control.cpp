@@ -56,7 +56,7 @@ void Control::setToolTip(std::string text) {
 }
 
 void Control::doubleClick() {
-  m_form.perform(m_doubleClick);
+  m_form.perform(m_doubleClick, this);
 }
 
 void Control::focus() {
@@ -81,7 +81,7 @@ void Control::left() {
 bool Control::offerKey(const Key& key) {
   if (!m_key) return false;
   bool taken = true;
-  m_form.perform([&] { taken = m_key(key); });
+  m_form.perform([&] { taken = m_key(key); }, this);
   return taken;
 }
 
@@ -93,10 +93,35 @@ void Control::key(const Key& key) {
 void Control::keyPassed(const Key&) {}
 
 void Control::fire() {
-  m_form.perform(m_event);
+  m_form.perform(m_event, this);
+}
+
+std::shared_ptr<const ControlState> Control::state() const {
+  if (m_state != nullptr && m_stateAt == revision()) return m_state;
+  auto now = std::make_shared<const ControlState>(ControlState{
+      .enabled = m_enabled, .aside = m_aside, .back = m_back, .fore = m_fore, .toolTip = m_toolTip, .value = held()});
+  if (m_state == nullptr || !(*m_state == *now)) m_state = std::move(now);
+  m_stateAt = revision();
+  return m_state;
+}
+
+void Control::restore(const std::shared_ptr<const ControlState>& state) {
+  if (*this->state() == *state) return;
+  m_enabled = state->enabled;
+  m_aside = state->aside;
+  m_back = state->back;
+  m_fore = state->fore;
+  m_toolTip = state->toolTip;
+  setHeld(state->value);
+  ++m_revision;
+  m_state = state;
+  m_stateAt = revision();
+  if (!m_enabled) left();
+  if (m_listener) m_listener();
 }
 
 void Control::changed() {
+  ++m_revision;
   if (m_listener) m_listener();
 }
 

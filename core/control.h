@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "core/control_state.h"
 #include "core/key.h"
 #include "core/palette.h"
 
@@ -35,6 +38,12 @@ class Control {
   bool aside() const { return m_aside; }
   void setAside(bool aside);
 
+  /// Looks and value as they stand: the same object as long as neither changes.
+  std::shared_ptr<const ControlState> state() const;
+  /// False for what serves the form itself, such as the command that takes a state back: no part of the form's state.
+  bool partOfState() const { return m_partOfState; }
+  void leaveOutOfState() { m_partOfState = false; }
+
   /// The operation of the control: a click, a pick, a change of value.
   void onEvent(std::function<void()> operation) { m_event = std::move(operation); }
   bool hasEvent() const { return static_cast<bool>(m_event); }
@@ -65,6 +74,12 @@ class Control {
   void setListener(std::function<void()> listener, std::function<void()> takeFocus = {});
 
  protected:
+  /// What the control holds, and how it takes that back, without a word to the view.
+  virtual ControlValue held() const = 0;
+  virtual void setHeld(const ControlValue& value) = 0;
+  /// Moves with each change of looks or value.
+  virtual std::uint64_t revision() const { return m_revision; }
+
   void fire();
   void changed();
   /// What a key does to the control by itself.
@@ -72,13 +87,19 @@ class Control {
 
  private:
   friend class Form;
+  void restore(const std::shared_ptr<const ControlState>& state);
+
   Form& m_form;
   std::string m_name;
-  bool m_enabled = true, m_aside = false;
+  bool m_enabled = true, m_aside = false, m_partOfState = true;
   std::optional<Rgb> m_back, m_fore;
   std::string m_toolTip;
   std::function<void()> m_event, m_doubleClick, m_enter, m_leave, m_listener, m_takeFocus;
   std::function<bool(const Key&)> m_key;
+  std::uint64_t m_revision = 0;
+  // The last state, and when that was.
+  mutable std::shared_ptr<const ControlState> m_state;
+  mutable std::uint64_t m_stateAt = 0;
 };
 
 }  // namespace trv5

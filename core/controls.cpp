@@ -30,7 +30,7 @@ void Label::setText(std::string text) {
 Combo::Combo(Form& form, std::string name, Typing typing) : Control(form, std::move(name)), m_typing(typing) {}
 
 void Combo::setItems(std::vector<std::string> items) {
-  m_items = std::move(items);
+  m_items = std::make_shared<const std::vector<std::string>>(std::move(items));
   m_index = -1;
   m_text.clear();
   changed();
@@ -41,23 +41,26 @@ int Combo::number() const {
 }
 
 void Combo::pick(int index) {
-  if (index < 0 || index >= static_cast<int>(m_items.size())) return;
-  assign(index, m_items[static_cast<std::size_t>(index)]);
+  if (index < 0 || index >= static_cast<int>(items().size())) return;
+  const UserAct act(form(), this);
+  assign(index, items()[static_cast<std::size_t>(index)]);
   fire();
 }
 
 void Combo::type(std::string text) {
-  const auto it = std::find(m_items.begin(), m_items.end(), text);
-  if (it != m_items.end()) return pick(static_cast<int>(it - m_items.begin()));
+  const auto it = std::find(items().begin(), items().end(), text);
+  const UserAct act(form(), this, true);
+  if (it != items().end()) return pick(static_cast<int>(it - items().begin()));
   if (!editable() || (m_index == -1 && m_text == text)) return;
   assign(-1, std::move(text));
   fire();
 }
 
 void Combo::select(int index) {
-  if (index < 0 || index >= static_cast<int>(m_items.size())) index = -1;
+  if (index < 0 || index >= static_cast<int>(items().size())) index = -1;
   if (index == m_index && index >= 0) return;
-  assign(index, index < 0 ? std::string() : m_items[static_cast<std::size_t>(index)]);
+  const UserAct act(form(), this);
+  assign(index, index < 0 ? std::string() : items()[static_cast<std::size_t>(index)]);
   fire();
 }
 
@@ -79,6 +82,7 @@ void Check::setCaption(std::string caption) {
 
 void Check::set(bool checked) {
   if (m_checked == checked) return;
+  const UserAct act(form(), this);
   m_checked = checked;
   changed();
   fire();
@@ -95,6 +99,7 @@ void Text::set(std::string text) {
 
 void Text::edit(std::string text, int cursor) {
   if (m_text == text) return select(cursor, 0);
+  const UserAct act(form(), this, true);
   m_text = std::move(text);
   m_start = std::clamp(cursor, 0, characterCount(m_text));
   m_length = 0;
@@ -158,6 +163,7 @@ Scroll::Scroll(Form& form, std::string name, int minimum, int maximum)
 void Scroll::set(int value) {
   value = std::clamp(value, m_minimum, std::max(m_minimum, m_maximum));
   if (m_value == value) return;
+  const UserAct act(form(), this, true);
   m_value = value;
   changed();
   fire();
@@ -176,6 +182,7 @@ Tabs::Tabs(Form& form, std::string name, std::vector<std::pair<int, std::string>
 void Tabs::set(int index) {
   if (m_index == index) return;
   if (std::none_of(m_captions.begin(), m_captions.end(), [&](const auto& tab) { return tab.first == index; })) return;
+  const UserAct act(form(), this, true);
   m_index = index;
   changed();
   fire();
@@ -208,9 +215,64 @@ void Progress::set(int value, int maximum) {
 
 void Calendar::set(std::string date) {
   if (m_date == date) return;
+  const UserAct act(form(), this, true);
   m_date = std::move(date);
   changed();
   fire();
+}
+
+void Button::setHeld(const ControlValue& value) {
+  m_caption = std::get<std::string>(value);
+}
+
+void Label::setHeld(const ControlValue& value) {
+  m_text = std::get<std::string>(value);
+}
+
+void Combo::setHeld(const ControlValue& value) {
+  const auto& own = std::get<ComboValue>(value);
+  m_items = own.items;
+  m_index = own.index;
+  m_text = own.text;
+}
+
+void Check::setHeld(const ControlValue& value) {
+  const auto& own = std::get<CheckValue>(value);
+  m_caption = own.caption;
+  m_checked = own.checked;
+}
+
+void Text::setHeld(const ControlValue& value) {
+  if (m_text == std::get<std::string>(value)) return;
+  m_text = std::get<std::string>(value);
+  m_start = characterCount(m_text);
+  m_length = 0;
+}
+
+void Scroll::setHeld(const ControlValue& value) {
+  const auto& own = std::get<ScrollValue>(value);
+  m_value = own.value;
+  m_maximum = own.maximum;
+}
+
+void Tabs::setHeld(const ControlValue& value) {
+  const auto& own = std::get<TabsValue>(value);
+  m_index = own.index;
+  m_disabled = own.disabled;
+}
+
+void LineList::setHeld(const ControlValue& value) {
+  m_lines = std::get<std::vector<std::string>>(value);
+}
+
+void Progress::setHeld(const ControlValue& value) {
+  const auto& own = std::get<ProgressValue>(value);
+  m_value = own.value;
+  m_maximum = own.maximum;
+}
+
+void Calendar::setHeld(const ControlValue& value) {
+  m_date = std::get<std::string>(value);
 }
 
 }  // namespace trv5

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -22,6 +23,10 @@ class Button : public Control {
   /// Runs the button's operation, as a click does; "run the button" from an operation too.
   void press() { fire(); }
 
+ protected:
+  ControlValue held() const override { return m_caption; }
+  void setHeld(const ControlValue& value) override;
+
  private:
   std::string m_caption;
 };
@@ -33,6 +38,10 @@ class Label : public Control {
   const std::string& text() const { return m_text; }
   void setText(std::string text);
   void click() { fire(); }
+
+ protected:
+  ControlValue held() const override { return m_text; }
+  void setHeld(const ControlValue& value) override;
 
  private:
   std::string m_text;
@@ -47,7 +56,7 @@ class Combo : public Control {
 
   bool editable() const { return m_typing != Typing::No; }
   bool digitsOnly() const { return m_typing == Typing::Digits; }
-  const std::vector<std::string>& items() const { return m_items; }
+  const std::vector<std::string>& items() const { return *m_items; }
   void setItems(std::vector<std::string> items);
   /// The chosen item from 0; -1 for a typed text or none.
   int index() const { return m_index; }
@@ -62,11 +71,15 @@ class Combo : public Control {
   /// Set by an operation: fires only when the index changes. Out of range: no item, an empty text.
   void select(int index);
 
+ protected:
+  ControlValue held() const override { return ComboValue{m_items, m_index, m_text}; }
+  void setHeld(const ControlValue& value) override;
+
  private:
   void assign(int index, std::string text);
 
   Typing m_typing;
-  std::vector<std::string> m_items;
+  std::shared_ptr<const std::vector<std::string>> m_items = std::make_shared<const std::vector<std::string>>();
   int m_index = -1;
   std::string m_text;
 };
@@ -80,6 +93,10 @@ class Check : public Control {
   bool checked() const { return m_checked; }
   /// Fires only when the state changes.
   void set(bool checked);
+
+ protected:
+  ControlValue held() const override { return CheckValue{m_caption, m_checked}; }
+  void setHeld(const ControlValue& value) override;
 
  private:
   std::string m_caption;
@@ -106,6 +123,8 @@ class Text : public Control {
   void selectAll();
 
  protected:
+  ControlValue held() const override { return m_text; }
+  void setHeld(const ControlValue& value) override;
   void keyPassed(const Key& key) override;
 
  private:
@@ -128,6 +147,10 @@ class Scroll : public Control {
   /// A value left outside the new range moves to its end, and fires.
   void setMaximum(int maximum);
 
+ protected:
+  ControlValue held() const override { return ScrollValue{m_value, m_maximum}; }
+  void setHeld(const ControlValue& value) override;
+
  private:
   int m_value, m_minimum, m_maximum;
 };
@@ -145,6 +168,10 @@ class Tabs : public Control {
   void setTabEnabled(int index, bool enabled);
   bool tabEnabled(int index) const { return !m_disabled.contains(index); }
 
+ protected:
+  ControlValue held() const override { return TabsValue{m_index, m_disabled}; }
+  void setHeld(const ControlValue& value) override;
+
  private:
   std::vector<std::pair<int, std::string>> m_captions;
   int m_index;
@@ -159,6 +186,10 @@ class LineList : public Control {
   void clear();
   void add(std::string line);
 
+ protected:
+  ControlValue held() const override { return m_lines; }
+  void setHeld(const ControlValue& value) override;
+
  private:
   std::vector<std::string> m_lines;
 };
@@ -170,6 +201,10 @@ class Progress : public Control {
   int value() const { return m_value; }
   int maximum() const { return m_maximum; }
   void set(int value, int maximum);
+
+ protected:
+  ControlValue held() const override { return ProgressValue{m_value, m_maximum}; }
+  void setHeld(const ControlValue& value) override;
 
  private:
   int m_value = 0, m_maximum = 0;
@@ -183,6 +218,10 @@ class Calendar : public Control {
   const std::string& date() const { return m_date; }
   /// Fires only when the date changes.
   void set(std::string date);
+
+ protected:
+  ControlValue held() const override { return m_date; }
+  void setHeld(const ControlValue& value) override;
 
  private:
   std::string m_date;

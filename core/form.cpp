@@ -28,14 +28,35 @@ void Form::missing(std::string_view name) {
 
 void Form::moveFocus(Control* to) {
   if (m_focused == to) return;
-  if (Control* const from = std::exchange(m_focused, nullptr)) perform(from->m_leave);
+  if (Control* const from = std::exchange(m_focused, nullptr)) perform(from->m_leave, from);
   if (m_focused != nullptr) return;  // what ran on leaving gave the focus elsewhere
   m_focused = to;
-  if (to != nullptr) perform(to->m_enter);
+  if (to != nullptr) perform(to->m_enter, to);
 }
 
-void Form::perform(const std::function<void()>& operation) {
-  if (!operation) return;
+FormState Form::state() const {
+  FormState state;
+  state.controls.reserve(m_controls.size());
+  for (const Control* const control : m_controls)
+    state.controls.push_back(control->partOfState() ? control->state() : nullptr);
+  state.focused = m_focused;
+  return state;
+}
+
+void Form::restore(const FormState& state) {
+  if (state.controls.size() != m_controls.size()) throw std::logic_error("a state of another form than " + m_name);
+  const Control* const focused = m_focused;
+  const OperationDepth::Step step(m_shell.operations());
+  m_restoring = true;
+  for (std::size_t i = 0; i < m_controls.size(); ++i)
+    if (state.controls[i] != nullptr) m_controls[i]->restore(state.controls[i]);
+  if (focused != nullptr && m_focused != focused && state.focused != nullptr) state.focused->focus();
+  m_restoring = false;
+}
+
+void Form::perform(const std::function<void()>& operation, const Control* source) {
+  if (!operation || m_restoring) return;
+  const UserAct act(*this, source);
   OperationDepth& depth = m_shell.operations();
   if (depth.running()) {
     const OperationDepth::Step step(depth);

@@ -6,7 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "core/control_state.h"
 #include "core/shell.h"
+#include "core/user_act.h"
 
 namespace trv5 {
 
@@ -39,14 +41,25 @@ class Form {
   Control* focused() const { return m_focused; }
 
   /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
-  /// that run others call them directly or press their buttons; errors then pass through to the outermost.
-  void perform(const std::function<void()>& operation);
+  /// that run others call them directly or press their buttons; errors then pass through to the outermost. `source`:
+  /// the control that the user acted at.
+  void perform(const std::function<void()>& operation, const Control* source = nullptr);
+
+  /// All controls as they stand; what hasn't changed since the last time is shared with that state.
+  FormState state() const;
+  /// Puts a state of this form back: no operation runs, each view that has something new to show is told once. The
+  /// focus stays where it is; from a control that is disabled now it goes back to where it was then.
+  void restore(const FormState& state);
+  /// Who follows the acts of the user; null for nobody.
+  void setActListener(ActListener* listener) { m_acts = listener; }
+  const ActListener* actListener() const { return m_acts; }
 
   /// Called after a change of the title.
   std::function<void()> titleChanged;
 
  private:
   friend class Control;
+  friend class UserAct;
   [[noreturn]] static void missing(std::string_view name);
   void moveFocus(Control* to);
 
@@ -56,6 +69,9 @@ class Form {
   Control* m_focused = nullptr;
   std::vector<Control*> m_controls;
   std::map<std::string, Control*, std::less<>> m_byName;
+  ActListener* m_acts = nullptr;
+  bool m_acting = false;     // an act is under way
+  bool m_restoring = false;  // no operation runs
 };
 
 template <class Kind>

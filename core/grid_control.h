@@ -44,6 +44,13 @@ class GridControl : public Control, public Grid {
   using Grid::back;
   using Grid::setBack;
   using Grid::setFore;
+  // The state of the control, with its looks.
+  using Control::state;
+
+ protected:
+  ControlValue held() const override { return GridValue{Grid::state(), m_emptyText}; }
+  void setHeld(const ControlValue& value) override;
+  std::uint64_t revision() const override { return Control::revision() + Grid::revision(); }
 
  private:
   std::function<void(int, int)> m_click, m_cellDoubleClick;
