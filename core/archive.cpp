@@ -1,5 +1,6 @@
 #include "core/archive.h"
 
+#include <atomic>
 #include <stdexcept>
 
 #include "core/text.h"
@@ -39,6 +40,8 @@ void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
       for (std::size_t b = a + 1; b < wheel + kPositions; ++b)
         if (m_numbers[a] != 0 && m_numbers[a] == m_numbers[b]) m_repeats = true;
   m_count = static_cast<int>(rows.size());
+  static std::atomic<std::uint64_t> loads = 0;
+  m_stamp = ++loads;
 }
 
 void Archive::countProgressives() {

@@ -42,6 +42,9 @@ class Archive {
   /// The model archive over the whole archive, 1..`NumEstrazioni`.
   void setWholeModel();
 
+  /// Differs after each load of draws, in whichever archive of the program.
+  std::uint64_t loadStamp() const { return m_stamp; }
+
   int NumEstrazioni() const { return m_count; }
   /// The last valid draw index; follows `NumEstrazioni` only at a full load.
   int UltimaEstrazione() const { return m_last; }
@@ -77,6 +80,7 @@ class Archive {
   std::vector<std::string> m_dates;
   std::vector<std::int16_t> m_month, m_year;
   std::vector<int> m_model;
+  std::uint64_t m_stamp = 0;
   int m_count = 0;
   int m_last = 0;
   bool m_repeats = false;

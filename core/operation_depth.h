@@ -7,6 +7,8 @@ namespace trv5 {
 class OperationDepth {
  public:
   bool running() const { return m_depth > 0; }
+  /// An operation runs another one.
+  bool nested() const { return m_depth > 1; }
 
   /// One operation, as long as this lives.
   class Step {
