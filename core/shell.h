@@ -11,6 +11,7 @@
 
 namespace trv5 {
 
+class Button;
 class Form;
 
 enum class Icon { None, Information, Exclamation, Critical, Question };
@@ -89,6 +90,8 @@ class Shell {
   virtual void progress(int value, int maximum) = 0;
   /// One line about what the last operation did.
   virtual void status(const std::string& text) = 0;
+  /// Offers a button of a screen beside that line, until the next line or operation; null for none.
+  virtual void offer(const Button* button) = 0;
   virtual DateTime now() = 0;
   /// Ends the program.
   virtual void quit() = 0;

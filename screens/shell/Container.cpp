@@ -218,6 +218,14 @@ void ContainerScreen::setOpenScreens(std::vector<std::string> names) {
 
 void ContainerScreen::showStatus(const QString& text) {
   m_status->setText(text);
+  showOffer({}, {}, {});
+}
+
+void ContainerScreen::showOffer(const QString& caption, const QString& toolTip, std::function<void()> taken) {
+  m_offer->setText(caption);
+  m_offer->setToolTip(toolTip);
+  m_offer->setVisible(!caption.isEmpty());
+  m_offerTaken = std::move(taken);
 }
 
 bool ContainerScreen::restore(const QSettings& settings) {

@@ -39,6 +39,8 @@ class ContainerScreen : public QMainWindow {
   /// The open screens, the front one last.
   void setOpenScreens(std::vector<std::string> names);
   void showStatus(const QString& text);
+  /// A quiet button beside the status text, until the next text or offer; an empty caption takes it away.
+  void showOffer(const QString& caption, const QString& toolTip, std::function<void()> taken);
   /// Tells which archive is at work; the desktop's title of the window names it.
   void setArchiveName(std::function<QString()> name);
 
@@ -110,6 +112,8 @@ class ContainerScreen : public QMainWindow {
   GridView* m_draws = nullptr;
   QLabel *m_status = nullptr, *m_lastDate = nullptr, *m_lastIndex = nullptr;
   QLabel* m_count = nullptr;
+  QPushButton* m_offer = nullptr;
+  std::function<void()> m_offerTaken;
   QAction* m_resetBase = nullptr;
   bool m_wide = true, m_anyOpen = false;
   // What the user chose last while no screen is open, and while one is.

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "screens/kit/bindings.h"
 #include "screens/kit/theme.h"
@@ -216,7 +217,20 @@ void ContainerScreen::buildStatusBar() {
   statusBar()->setSizeGripEnabled(false);
   m_status = quietLabel(QStringLiteral("Pronto"));
   m_status->setContentsMargins(8, 0, 0, 0);
-  statusBar()->addWidget(m_status, 1);
+  m_offer = new QPushButton;
+  m_offer->setObjectName(QStringLiteral("Cmd_Annulla"));
+  dress(*m_offer, {.kind = ButtonKind::Quiet});
+  m_offer->setProperty("link", true);
+  m_offer->setFocusPolicy(Qt::NoFocus);  // it comes and goes: the focus stays where the user works
+  m_offer->setCursor(Qt::PointingHandCursor);
+  m_offer->hide();
+  connect(m_offer, &QPushButton::clicked, this, [this] {
+    const std::function<void()> taken = std::exchange(m_offerTaken, {});
+    showOffer({}, {}, {});
+    if (taken) taken();
+  });
+  QWidget* const left = holding(row({m_status, m_offer, Piece::gap()}));
+  statusBar()->addWidget(left, 1);
   QProgressBar* const bar = m_kit.progress("Pb1");
   bar->setFixedWidth(180);
   bar->setAccessibleName(QStringLiteral("Avanzamento"));

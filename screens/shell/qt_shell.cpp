@@ -298,6 +298,17 @@ void QtShell::status(const std::string& text) {
   if (ContainerScreen* const window = shellWindow()) window->showStatus(qs(text));
 }
 
+// The screen may be closed before the user answers: it is looked for by name then.
+void QtShell::offer(const Button* button) {
+  ContainerScreen* const window = shellWindow();
+  if (window == nullptr) return;
+  if (button == nullptr) return window->showOffer({}, {}, {});
+  window->showOffer(qs(button->caption()), qs(button->toolTip()),
+                    [this, screen = button->form().name(), name = button->name()] {
+                      if (Form* const owner = form(screen)) owner->get<Button>(name).press();
+                    });
+}
+
 DateTime QtShell::now() {
   const QDateTime moment = QDateTime::currentDateTime();
   const QDate date = moment.date();

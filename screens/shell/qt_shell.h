@@ -61,6 +61,7 @@ class QtShell : public QObject, public Shell {
   void openAddress(const std::string& url) override;
   void progress(int value, int maximum) override;
   void status(const std::string& text) override;
+  void offer(const Button* button) override;
   DateTime now() override;
   void quit() override;
 

@@ -70,6 +70,7 @@ class FakeShell : public Shell {
   std::vector<std::pair<int, int>> progressValues;
   DateTime clock{2026, 8, 22, 10, 30, 15};  ///< what now() tells
   int quits = 0;
+  std::string offered;  ///< the name of the button that the bar offers, empty for none
 
   void message(const Box& box) override;
   bool confirm(const Box& box) override;
@@ -84,7 +85,11 @@ class FakeShell : public Shell {
   void help(int context) override { helpContexts.push_back(context); }
   void openAddress(const std::string& url) override { addresses.push_back(url); }
   void progress(int value, int maximum) override { progressValues.emplace_back(value, maximum); }
-  void status(const std::string& text) override { statusTexts.push_back(text); }
+  void status(const std::string& text) override {
+    statusTexts.push_back(text);
+    offered.clear();
+  }
+  void offer(const Button* button) override { offered = button == nullptr ? "" : button->name(); }
   DateTime now() override { return clock; }
   void quit() override { ++quits; }
 
