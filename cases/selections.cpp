@@ -179,6 +179,7 @@ void ApreBanco(Workbench& w) {
   CambiaEstrazioneRiferimento(w);  // an archive of one draw moves no scroll bar
   takeMonthly(w);
   w.hooks.listConfigurations();
+  w.history.start();
 }
 
 void RicavaRuoteGioco(Workbench& w) {

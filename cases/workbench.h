@@ -10,6 +10,7 @@
 #include "cases/case_columns.h"
 #include "cases/formula_rows.h"
 #include "cases/hit_columns.h"
+#include "cases/workbench_history.h"
 #include "cases/workbench_state.h"
 #include "core/archive.h"
 #include "core/controls.h"
@@ -158,6 +159,9 @@ class Workbench : public Form, public WorkbenchState {
 
  private:
   std::vector<std::unique_ptr<Button>> m_buttons;
+
+ public:
+  WorkbenchHistory history{*this};
 };
 
 }  // namespace trv5

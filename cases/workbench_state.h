@@ -55,6 +55,8 @@ struct WorkbenchState {
   CaseFlags CasiEsclusi{};               ///< cases that the verifications behind CC skip
   CaseFlags CasiVerificati{};            ///< cases that the last verification behind CC hit; unread
   CaseFlags CasiCoperti{}, CasiQuasi{};  ///< lunghetta: covered cases, and those one number short of the sorte
+
+  bool operator==(const WorkbenchState&) const = default;
 };
 
 }  // namespace trv5

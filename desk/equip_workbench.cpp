@@ -3,6 +3,7 @@
 #include "cases/case_list.h"
 #include "cases/selections.h"
 #include "configs/configurations.h"
+#include "desk/undo_offer.h"
 #include "desk/workbench_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
@@ -47,6 +48,7 @@ void equipWorkbench(Workbench& w) {
   fillHooks(w);
   connectSelections(w);
   connectLists(w);
+  connectUndo(w);
 }
 
 void connectDatabase(Workbench& w, const Program& program) {

@@ -4,6 +4,7 @@
 #include "cases/case_map.h"
 #include "cases/case_search.h"
 #include "cases/selections.h"
+#include "cases/workbench_history.h"
 #include "configs/configurations.h"
 #include "core/numbers.h"
 #include "engine/ambata_buttons.h"
@@ -48,6 +49,8 @@ constexpr WorkbenchButton kReferenceBar[] = {
     {"Command42_3", "Vai all'ultima estrazione", "Vai all'ultima estrazione", run<VaiUltimaEstrazione>},
     {"Command87", "RIELABORA TUTTO", "Ricava l'elenco e verifica tutte le tabelle", run<RielaboraTutto>},
     {"Command70", "Help in linea", "Help in linea", run<MostraAiuto>},
+    {"Cmd_Annulla", "Annulla", "Niente da annullare", run<AnnullaOperazione>},
+    {"Cmd_Ripeti", "Ripete", "Niente da ripetere", run<RipeteOperazione>},
 };
 
 constexpr WorkbenchButton kSelezioni[] = {

@@ -23,6 +23,8 @@ struct ParametriFormula {
   int NumeroOttenuto = 0;  ///< the result; also the carried value when nothing assigns it
   int Elem1 = 0, Elem2 = 0, Elem3 = 0;
   int N1 = 0, N2 = 0, N3 = 0;  ///< the elements after the zero rule
+
+  bool operator==(const ParametriFormula&) const = default;
 };
 
 /// Evaluates the formula of `p` on the draw `p.Estr` into `p.NumeroOttenuto`: 1..90, or the unfolded fix of a pure

@@ -111,7 +111,7 @@ WorkbenchSnapshot::WorkbenchSnapshot(const Workbench& w) : state(w) {
   for (const Control* control : w.controls())
     if (const auto* grid = dynamic_cast<const GridControl*>(control)) {
       if (!kScratch.contains(grid->name())) grids.emplace(grid->name(), grid->grid());
-    } else {
+    } else if (control->partOfState()) {
       controls[control->name()] = valueOf(*control) + looks(*control);
     }
 }
@@ -142,7 +142,7 @@ std::string difference(const WorkbenchSnapshot& expected, const Workbench& actua
       if (kScratch.contains(grid->name())) continue;
       if (const std::string text = gridDifference(grid->name(), expected.grids.at(grid->name()), *grid); !text.empty())
         return text;
-    } else {
+    } else if (control->partOfState()) {
       const std::string text =
           valueDifference(control->name(), expected.controls.at(control->name()), valueOf(*control) + looks(*control));
       if (!text.empty()) return text;
