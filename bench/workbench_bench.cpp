@@ -3,7 +3,10 @@
 //   workbench_bench [HISTORY]    as search_bench
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench_tools.h"
@@ -134,6 +137,30 @@ void benchWholeMethod(WorkbenchWorld& world) {
              w.FgZ0.dataRows());
 }
 
+// What the history adds to acts of the user: each changes the workbench, so each is a step.
+void benchHistory(WorkbenchWorld& world) {
+  Workbench& w = world.w;
+  int draw = 0;
+  const std::pair<const char*, std::function<void()>> acts[] = {
+      {"a number", [&] { w.FgNu.clickCell(0, 0); }},
+      {"the reference draw", [&] { w.hs1.set(3000 + ++draw % 2); }},
+      {"ambate 1N 1R or 2N 1R", [&] { world.press(++draw % 2 == 0 ? "Command20" : "Command23"); }},
+      {"RIELABORA TUTTO",
+       [&] {
+         w.ComboNC.pick(48 + ++draw % 2);
+         world.press("Command87");
+       }},
+  };
+  for (const auto& [name, act] : acts) {
+    w.setActListener(nullptr);
+    const double without = secondsOf(act, 0.2);
+    w.history.start();
+    const double with = secondsOf(act, 0.2);
+    report(std::string("history beside ") + name, std::max(0.0, with - without), 0.3);
+    fmt::print("  {} steps in {:.1f} MiB\n", w.history.undoSteps(), static_cast<double>(w.history.bytes()) / (1 << 20));
+  }
+}
+
 void benchAll(const Archive& archive) {
   WorkbenchWorld world(archive);
   prepare(world, kColpi);
@@ -141,6 +168,7 @@ void benchAll(const Archive& archive) {
   benchAmbiAndTerni(world);
   benchLunghetta(world);
   benchWholeMethod(world);
+  benchHistory(world);
 }
 
 // Candidates of 2N 1R over five formulas a table, the first ambata with this alteration.
