@@ -105,6 +105,14 @@ bool UserEvents::eventFilter(QObject* watched, QEvent* event) {
       if (m_control.offerKey(keyFrom(static_cast<const QKeyEvent&>(*event)))) return true;
       if (pressByEnter(m_widget, static_cast<const QKeyEvent&>(*event))) return true;
       break;
+    case QEvent::ShortcutOverride: {
+      // A box takes Ctrl+Z for itself before any shortcut.
+      const auto& key = static_cast<const QKeyEvent&>(*event);
+      const bool undoes = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+      if (m_edit == nullptr || !undoes || m_control.form().actListener() == nullptr || takesBackItsTyping(key)) break;
+      event->ignore();
+      return true;
+    }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       if (mousePress(watched, event->type())) return true;
@@ -145,6 +153,12 @@ void UserEvents::focusOut(const QFocusEvent& event) {
   if (passing(event.reason()) || m_widget.metaObject() != m_kind || belongsTo(QApplication::focusWidget(), m_widget))
     return;
   m_control.left();
+}
+
+// Where the form takes whole operations back, a box takes its own text back only while the user is typing in it.
+bool UserEvents::takesBackItsTyping(const QKeyEvent& event) const {
+  if (!m_control.form().actListener()->typingIn(m_control)) return false;
+  return event.matches(QKeySequence::Undo) ? m_edit->isUndoAvailable() : m_edit->isRedoAvailable();
 }
 
 bool UserEvents::mousePress(const QObject* watched, QEvent::Type type) {

@@ -29,6 +29,7 @@ class UserEvents : public QObject {
   void focusOut(const QFocusEvent& event);
   bool mousePress(const QObject* watched, QEvent::Type type);
   void mouseRelease(const QObject* watched);
+  bool takesBackItsTyping(const QKeyEvent& event) const;
 
   QWidget& m_widget;
   const QMetaObject* m_kind;  // what the widget is while it is whole

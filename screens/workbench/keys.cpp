@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kRoad[] = {
     // Reference bar.
     "Command42_0", "hs1", "Command42_1", "Command42_2", "Command42_3", "Label1_0", "FgRG", "Label17", "Label18",
-    "ComboColpi", "Command87", "Command70",
+    "ComboColpi", "Command87", "Cmd_Annulla", "Cmd_Ripeti", "Command70",
     // Selezioni.
     "SSTab1", "ComboFiltro", "ComboPar", "Command14", "ComboR1", "ComboNC", "ComboQNu", "Ch_ultima", "LblPN_1",
     "LblPN_2", "LblPN_3", "LblPN_4", "LblPN_5", "FgNu", "Command24", "Command25", "Command26", "ComboValF", "Command8",
@@ -52,12 +52,14 @@ struct KeyOfControl {
   const char* control;
   const char* sequence;
 };
-constexpr KeyOfControl kKeys[] = {
-    {"Command42_1", "F3"},   {"Command42_3", "Alt+End"}, {"Command70", "F1"},     {"Command87", "Ctrl+F5"},
-    {"Command44", "F5"},     {"Command22", "Shift+F7"},  {"Cmd_LaSorte_1", "F7"}, {"Cmd_LaSorte_2", "F7"},
-    {"Cmd_LaSorte_3", "F7"}, {"Cmd_LaSorte_6", "F7"},    {"Command29", "F8"},     {"Command34", "F8"},
-    {"Command48", "F8"},     {"Command51", "F8"},        {"Command86", "F9"},     {"Command4", "Ctrl+S"},
-    {"Command20", "F6"},     {"Command28", "F6"},        {"Command46", "F6"},     {"Command56", "F6"}};
+constexpr KeyOfControl kKeys[] = {{"Command42_1", "F3"},    {"Command42_3", "Alt+End"}, {"Command70", "F1"},
+                                  {"Command87", "Ctrl+F5"}, {"Command44", "F5"},        {"Command22", "Shift+F7"},
+                                  {"Cmd_LaSorte_1", "F7"},  {"Cmd_LaSorte_2", "F7"},    {"Cmd_LaSorte_3", "F7"},
+                                  {"Cmd_LaSorte_6", "F7"},  {"Command29", "F8"},        {"Command34", "F8"},
+                                  {"Command48", "F8"},      {"Command51", "F8"},        {"Command86", "F9"},
+                                  {"Command4", "Ctrl+S"},   {"Cmd_Annulla", "Ctrl+Z"},  {"Cmd_Ripeti", "Ctrl+Shift+Z"},
+                                  {"Command20", "F6"},      {"Command28", "F6"},        {"Command46", "F6"},
+                                  {"Command56", "F6"}};
 
 // Adds the key to whatever tooltip its widget has at the moment.
 class KeyTip : public QObject {
@@ -108,6 +110,8 @@ void Sommativi1Screen::buildKeys() {
   presses(Qt::SHIFT | Qt::Key_F7, "Command22");
   presses(Qt::Key_F9, "Command86");
   presses(Qt::CTRL | Qt::Key_S, "Command4");
+  presses(Qt::CTRL | Qt::Key_Z, "Cmd_Annulla");
+  presses(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, "Cmd_Ripeti");
   presses(Qt::ALT | Qt::Key_End, "Command42_3");
   key(Qt::Key_F2, [this] { m_w.SSTab1.set(m_w.SSTab1.index() == 1 ? 0 : 1); });
   key(Qt::Key_F6, [this] { m_search->focusSearches(); });

@@ -40,6 +40,8 @@ WorkbenchReferenceBar::WorkbenchReferenceBar(Workbench& w, QWidget* parent) : QW
                                colpi,
                                part(),
                                kit.button("Command87", {.icon = "reload"}),
+                               command("Cmd_Annulla", "undo"),
+                               command("Cmd_Ripeti", "redo"),
                                command("Command70", "help")});
   setLayout(bar);
   // The date of the draw changes its width; the bar beside it must not.
