@@ -7,6 +7,19 @@
 #include "core/errors.h"
 
 namespace trv5 {
+namespace {
+
+// A flag that is up as long as this lives.
+struct Raised {
+  explicit Raised(bool& raised) : flag(raised) { flag = true; }
+  ~Raised() { flag = false; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+  bool& flag;
+};
+
+}  // namespace
+
 Form::Form(Shell& shell, std::string name, std::string title, int helpContext)
     : m_shell(shell), m_name(std::move(name)), m_title(std::move(title)), m_helpContext(helpContext) {}
 
@@ -47,11 +60,10 @@ void Form::restore(const FormState& state) {
   if (state.controls.size() != m_controls.size()) throw std::logic_error("a state of another form than " + m_name);
   const Control* const focused = m_focused;
   const OperationDepth::Step step(m_shell.operations());
-  m_restoring = true;
+  const Raised restoring(m_restoring);
   for (std::size_t i = 0; i < m_controls.size(); ++i)
     if (state.controls[i] != nullptr) m_controls[i]->restore(state.controls[i]);
   if (focused != nullptr && m_focused != focused && state.focused != nullptr) state.focused->focus();
-  m_restoring = false;
 }
 
 void Form::perform(const std::function<void()>& operation, const Control* source) {

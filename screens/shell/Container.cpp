@@ -222,6 +222,7 @@ void ContainerScreen::showStatus(const QString& text) {
 }
 
 void ContainerScreen::showOffer(const QString& caption, const QString& toolTip, std::function<void()> taken) {
+  if (caption.isEmpty() && m_offer->isHidden()) return;
   m_offer->setText(caption);
   m_offer->setToolTip(toolTip);
   m_offer->setVisible(!caption.isEmpty());

@@ -224,6 +224,17 @@ TEST(WorkbenchHistory, EndsWhereTheArchiveIsLoadedAnew) {
   EXPECT_EQ(world.w.history.undoSteps(), 1U);
 }
 
+// Its rows stand in the database, where nothing is taken back.
+TEST(WorkbenchHistory, LeavesTheListOfSavedConfigurationsAlone) {
+  Played world;
+  Workbench& w = world.w;
+  w.FgNu.clickCell(7, 7);
+  w.FgPir1.appendRow();
+  world.undo();
+  EXPECT_EQ(w.FgNu.back(7, 7), kWhite);
+  EXPECT_EQ(w.FgPir1.dataRows(), 1);
+}
+
 TEST(WorkbenchHistory, SaysWhatItTookBack) {
   Played world;
   world.press("Command41");
@@ -273,6 +284,14 @@ void anyAct(WorkbenchWorld& world, std::mt19937& rng) {
   }
 }
 
+// What a user sees, and everything else that the controls hold.
+struct Moment {
+  Moment() = default;
+  explicit Moment(const Workbench& w) : shown(w), controls(w.Form::state()) {}
+  WorkbenchSnapshot shown;
+  FormState controls;
+};
+
 TEST(WorkbenchHistory, GoesBackAndForthThroughAnyActs) {
   std::size_t all = 0;
   for (unsigned seed = 1; seed <= static_cast<unsigned>(randomRuns(40)); ++seed) {
@@ -281,9 +300,9 @@ TEST(WorkbenchHistory, GoesBackAndForthThroughAnyActs) {
     Played world;
     Workbench& w = world.w;
     // By number of steps: what stood before the step that follows, which is taken where it stood last.
-    std::vector<WorkbenchSnapshot> before;
+    std::vector<Moment> before;
     for (int i = 0; i < 120; ++i) {
-      WorkbenchSnapshot now(w);
+      Moment now(w);
       const std::size_t steps = w.history.undoSteps();
       anyAct(world, rng);
       if (w.history.undoSteps() > steps) {
@@ -293,16 +312,18 @@ TEST(WorkbenchHistory, GoesBackAndForthThroughAnyActs) {
     }
     before.resize(w.history.undoSteps());
     all += before.size();
-    std::vector<WorkbenchSnapshot> passed;
+    std::vector<Moment> passed;
     for (std::size_t i = before.size(); i > 0; --i) {
       passed.emplace_back(w);
       world.undo();
-      ASSERT_EQ(difference(before[i - 1], w), "") << i;
+      ASSERT_EQ(difference(before[i - 1].shown, w), "") << i;
+      ASSERT_EQ(before[i - 1].controls, w.Form::state()) << i;
     }
     ASSERT_FALSE(w.history.canUndo());
     for (std::size_t i = passed.size(); i > 0; --i) {
       world.redo();
-      ASSERT_EQ(difference(passed[i - 1], w), "") << i;
+      ASSERT_EQ(difference(passed[i - 1].shown, w), "") << i;
+      ASSERT_EQ(passed[i - 1].controls, w.Form::state()) << i;
     }
     ASSERT_FALSE(w.history.canRedo());
   }
