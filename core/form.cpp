@@ -67,14 +67,23 @@ void Form::restore(const FormState& state) {
 }
 
 void Form::perform(const std::function<void()>& operation, const Control* source) {
-  if (!operation || m_restoring) return;
-  const UserAct act(*this, source);
+  if (m_restoring) return;
   OperationDepth& depth = m_shell.operations();
+  if (!operation) {
+    if (!depth.running()) depth.settle();
+    return;
+  }
+  const UserAct act(*this, source);
   if (depth.running()) {
     const OperationDepth::Step step(depth);
     operation();
     return;
   }
+  runOutermost(operation, depth);
+  depth.settle();  // the operation may have closed this form
+}
+
+void Form::runOutermost(const std::function<void()>& operation, OperationDepth& depth) {
   try {
     const OperationDepth::Step step(depth);
     operation();

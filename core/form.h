@@ -42,7 +42,7 @@ class Form {
 
   /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
   /// that run others call them directly or press their buttons; errors then pass through to the outermost. `source`:
-  /// the control that the user acted at.
+  /// the control that the user acted at. `operation` is empty for a change that no operation follows.
   void perform(const std::function<void()>& operation, const Control* source = nullptr);
 
   /// All controls as they stand; what hasn't changed since the last time is shared with that state.
@@ -61,6 +61,7 @@ class Form {
   friend class Control;
   friend class UserAct;
   [[noreturn]] static void missing(std::string_view name);
+  void runOutermost(const std::function<void()>& operation, OperationDepth& depth);
   void moveFocus(Control* to);
 
   Shell& m_shell;

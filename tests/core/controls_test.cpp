@@ -85,6 +85,28 @@ TEST_F(Controls, EachProgramCountsItsOwnRunningOperations) {
   EXPECT_FALSE(shell.operations().running());
 }
 
+TEST_F(Controls, TellWhenTheOutermostOperationIsOver) {
+  auto listening = shell.operations().whenSettled(count(notices));
+  Button inner(form, "Command1"), outer(form, "Command2");
+  Check unread(form, "Check1");
+  inner.onEvent(count(events));
+  outer.onEvent([&] {
+    inner.press();
+    unread.set(true);
+    EXPECT_EQ(notices, 0);
+  });
+  outer.press();
+  EXPECT_EQ(notices, 1);
+  unread.set(false);
+  EXPECT_EQ(notices, 2) << "also without an operation";
+  inner.onEvent([] { throw UserError("No"); });
+  inner.press();
+  EXPECT_EQ(notices, 3) << "also when it failed";
+  listening.reset();
+  inner.press();
+  EXPECT_EQ(notices, 3);
+}
+
 TEST_F(Controls, AFormTellsAChangeOfItsTitle) {
   form.titleChanged = count(notices);
   form.setTitle("Altro");
