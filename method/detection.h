@@ -32,6 +32,8 @@ struct Situation {
   int quantity1 = 1, quantity2 = 1;  ///< two elements, Numeri: matches wanted in each element, exactly
   bool oneToOne = false;             ///< two elements: one position in each instead of a pair
   bool isotopes = false;             ///< two elements: the same positions in both
+
+  bool operator==(const Situation&) const = default;
 };
 
 /// A draw and wheel that show the situation, with the positions 1..5 to be marked.
