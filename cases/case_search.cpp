@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cases/case_rows.h"
+#include "cases/chosen_situation.h"
 #include "cases/method_codec.h"
 #include "cases/selections.h"
 #include "core/numbers.h"
@@ -51,12 +52,10 @@ bool valuesAreUsable(Workbench& w, SituationKind kind) {
 }
 
 void readNumbers(Workbench& w) {
-  w.NumeriScelti = {};
   w.TestoNumeri = w.TxtNumeri.text();
-  for (int n : numbersEveryThree(asciiText(w.TestoNumeri))) {
-    if (n < 1 || n > kMostNumber) continue;
-    const auto at = static_cast<std::size_t>(n);
-    w.NumeriScelti[at] = true;
+  w.NumeriScelti = chosenNumbers(w.TestoNumeri);
+  for (std::size_t at = 1; at <= kMostNumber; ++at) {
+    if (!w.NumeriScelti[at]) continue;
     w.DecineScelte[static_cast<std::size_t>(TabDecina[at])] = true;
     w.CadenzeScelte[static_cast<std::size_t>(TabCadenza[at])] = true;
     w.FigureScelte[static_cast<std::size_t>(TabFigura[at])] = true;
