@@ -72,6 +72,7 @@ void CancellaSegniVerifica(Workbench& w) {
     }
   }
   w.FgSSS.clearTexts();
+  w.origins.marks = {};
   w.shell().status(w.FgEv.hasData() ? "Segni delle verifiche cancellati" : kNoCases);
 }
 

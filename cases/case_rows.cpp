@@ -40,6 +40,7 @@ void markCovered(Workbench& w, int row, int column, int hits) {
 }
 
 void clearMarks(Workbench& w, int column) {
+  w.origins.marks[static_cast<std::size_t>(column - case_column::kHits)].clear();
   for (int row = 1; row < w.FgEv.rows(); ++row) {
     w.FgEv.setBack(row, column, kWhite);
     w.FgEv.setText(row, column, "");

@@ -5,6 +5,7 @@
 #include "cases/case_rows.h"
 #include "cases/chosen_situation.h"
 #include "cases/method_codec.h"
+#include "cases/result_states.h"
 #include "cases/selections.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -89,6 +90,7 @@ void RicavaElencoEstrazioni(Workbench& w) {
   const std::vector<FoundCase> cases = detectCases(w.archive, situationOf(w), w.PosizioniColpite);
   w.NumeroCasi = static_cast<int>(cases.size());
   writeCases(w, cases);
+  noteCases(w);
   w.SSTab1.set(kTabCases);
   if (w.FgEv.dataRows() > kMostCases) {
     w.shell().message({.text = "Non sono consentite più di 50 casistiche... quelle eccedenti saranno rimosse.",

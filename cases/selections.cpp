@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "cases/case_list.h"
 #include "cases/case_rows.h"
 #include "cases/formula_rows.h"
 #include "cases/hit_rows.h"
@@ -141,6 +142,7 @@ void emptyResults(Workbench& w) {
                      &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
                      &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})
     grid->cutToHeading();
+  w.origins.marks = {};
   w.ComboFix.select(0);
   w.Ch_analisi2ruote.set(false);
   w.Label5.setText("");
@@ -262,6 +264,7 @@ void MostraAiuto(Workbench& w) {
 
 void connectSelections(Workbench& w) {
   w.hs1.onEvent([&w] { CambiaEstrazioneRiferimento(w); });
+  w.LblUltima.onEvent([&w] { VaiUltimaEstrazione(w); });
   w.SSTab3.onEvent([&w] { CambiaTabPrevisioni(w); });
   w.ComboFiltro.onEvent([&w] { MarcaSelezioniLette(w); });
   w.Ch_analisi2ruote.onEvent([&w] { MarcaSelezioniLette(w); });

@@ -32,4 +32,8 @@ void Workbench::addButtons(const WorkbenchButtons& group) {
   if (group.tab >= 0) SSTab3.setTabEnabled(group.tab, group.buttons.front().run != nullptr);
 }
 
+void Workbench::addLabel(const std::string& name) {
+  m_labels.push_back(std::make_unique<Label>(*this, name));
+}
+
 }  // namespace trv5

@@ -4,12 +4,14 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "cases/case_columns.h"
 #include "cases/formula_rows.h"
 #include "cases/hit_columns.h"
+#include "cases/result_origins.h"
 #include "cases/workbench_history.h"
 #include "cases/workbench_state.h"
 #include "core/archive.h"
@@ -65,7 +67,8 @@ class Workbench : public Form, public WorkbenchState {
   // Reference bar.
   Scroll hs1{*this, "hs1", 1, 1};
   Label LabelRifE{*this, "LabelRifE"};
-  GridControl FgRG{*this, "FgRG", 1, kWheels};       ///< wheels of play, one row
+  Label LblUltima{*this, "LblUltima", "", "Vai all'ultima estrazione"};  ///< how far back the reference draw lies
+  GridControl FgRG{*this, "FgRG", 1, kWheels};                           ///< wheels of play, one row
   ControlArray<Label> Label1{*this, "Label1", {0}};  ///< "Gioco": its click deselects all wheels of play
   Label Label17{*this, "Label17", "Seleziona tutti", "Seleziona tutte le ruote di gioco"},
       Label18{*this, "Label18", "Seleziona tutti", "Deseleziona tutte le ruote di gioco"};
@@ -94,6 +97,7 @@ class Workbench : public Form, public WorkbenchState {
   GridControl FgSSS{*this, "FgSSS", 2, 6};        ///< totals of columns 17..22 of FgEv: hits, covered cases
 
   // Ricerca.
+  Label LblOrigine{*this, "LblOrigine"};  ///< the search that the ranking comes from
   LineList List1{*this, "List1"};
   Combo ComboEle{*this, "ComboEle", Combo::Typing::Digits}, Combo1R_1N{*this, "Combo1R_1N", Combo::Typing::Yes},
       Combo1R_2N{*this, "Combo1R_2N"}, ComboFix{*this, "ComboFix"};
@@ -120,6 +124,7 @@ class Workbench : public Form, public WorkbenchState {
       Fg33{*this, "Fg33", tableHeading()}, Fg00{*this, "Fg00", tableHeading()};
   GridControl FgZ1{*this, "FgZ1", kHitHeading}, FgZ2{*this, "FgZ2", kHitHeading}, FgZ3{*this, "FgZ3", kHitHeading},
       FgZ0{*this, "FgZ0", kHitHeading}, FgZZ{*this, "FgZZ", kSummaryHeading};
+  Label LblRigaProvata{*this, "LblRigaProvata"};  ///< the row whose hits `FgZ1` shows, where it is one by itself
   Check Check3{*this, "Check3", "R", "Usa le ruote della riga"}, ChA{*this, "ChA", "1", "Ambate"},
       ChB{*this, "ChB", "2", "Ambi"}, ChC{*this, "ChC", "3", "Terni"}, Ch1esito{*this, "Ch1esito", "Stop 1° esito"};
   Combo ComboSorte{*this, "ComboSorte"};
@@ -154,11 +159,17 @@ class Workbench : public Form, public WorkbenchState {
   Button& button(std::string_view name) const { return get<Button>(name); }
 
   void addButtons(const WorkbenchButtons& group);
+  void addLabel(const std::string& name);
 
   WorkbenchHooks hooks;
+  ResultOrigins origins;
+
+  /// Keeps alive what runs after every operation.
+  std::shared_ptr<void> settled;
 
  private:
   std::vector<std::unique_ptr<Button>> m_buttons;
+  std::vector<std::unique_ptr<Label>> m_labels;
 
  public:
   WorkbenchHistory history{*this};

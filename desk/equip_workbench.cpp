@@ -1,6 +1,7 @@
 #include "desk/equip_workbench.h"
 
 #include "cases/case_list.h"
+#include "cases/result_states.h"
 #include "cases/selections.h"
 #include "configs/configurations.h"
 #include "desk/undo_offer.h"
@@ -49,6 +50,7 @@ void equipWorkbench(Workbench& w) {
   connectSelections(w);
   connectLists(w);
   connectUndo(w);
+  connectResultStates(w);
 }
 
 void connectDatabase(Workbench& w, const Program& program) {

@@ -3,6 +3,7 @@
 #include "cases/case_rows.h"
 #include "cases/hit_rows.h"
 #include "cases/method_codec.h"
+#include "cases/result_states.h"
 #include "cases/status_texts.h"
 #include "core/text.h"
 #include "engine/colouring.h"
@@ -36,6 +37,7 @@ void Cmd_Elabora100(Workbench& w) {
     if (elaborated.hits[i].empty()) appendMiss(w, w.FgZ100, row);
     if (elaborated.marked[i] > 0) markCovered(w, row, case_column::kLunghetta, elaborated.marked[i]);
   }
+  noteElaboration(w);
   markOpenCases(w);
   ContaEsitix(w);
   w.shell().status("Lunghetta elaborata: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "cases/case_rows.h"
+#include "cases/result_states.h"
 
 namespace trv5 {
 namespace {
@@ -37,6 +38,7 @@ void ContaEsitix(Workbench& w) {
     w.FgSSS.setNumber(0, column - case_column::kHits, totals.hits);
     w.FgSSS.setNumber(1, column - case_column::kHits, totals.cases);
   }
+  noteTotals(w);
 }
 
 void CreaStatistica(Workbench& w) {

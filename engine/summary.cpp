@@ -8,6 +8,7 @@
 #include "cases/case_rows.h"
 #include "cases/case_search.h"
 #include "cases/hit_rows.h"
+#include "cases/result_states.h"
 #include "core/text.h"
 #include "engine/statistics.h"
 #include "engine/verification.h"
@@ -88,6 +89,8 @@ bool joinTables(Workbench& w) {
   w.EsitiPerSorte = summary.bySorte;
   scriveRiepilogo(w, summary.positive, summary.negative);
   PopolaGrafico(w);
+  noteSummary(w);
+  noteStatistics(w, w.FgZZ);
   w.shell().status("Riepilogo: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
                    counted(summary.positive, "esito", "esiti"));
   return !summary.anomaly;

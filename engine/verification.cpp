@@ -8,6 +8,7 @@
 #include "cases/formula_rows.h"
 #include "cases/hit_rows.h"
 #include "cases/method_codec.h"
+#include "cases/result_states.h"
 #include "cases/selections.h"
 #include "cases/status_texts.h"
 #include "core/text.h"
@@ -41,7 +42,8 @@ Verification verifyTable(Workbench& w, Table table, const Scope& scope) {
   return verified;
 }
 
-void writeHits(Workbench& w, Table table, const Verification& verified, bool marks) {
+// `beyond`: on to the end of the archive.
+void writeHits(Workbench& w, Table table, const Verification& verified, bool marks, bool beyond = false) {
   Grid& target = w.hits(table);
   const HitColour colour = table == Table::Lunghetta ? HitColour::BySorte : HitColour::Green;
   target.cutToHeading();
@@ -55,6 +57,8 @@ void writeHits(Workbench& w, Table table, const Verification& verified, bool mar
     else if (marks)
       markCovered(w, row, traitsOf(table).markColumn, static_cast<int>(hits.size()));
   }
+  noteHits(w, table, beyond);
+  if (marks) noteMarks(w, traitsOf(table).markColumn, {verificationOrigin(w, table, beyond)});
 }
 
 // The open cases marked in the list and among the hits; `CasiInCorso`.
@@ -113,6 +117,7 @@ void verificaRiga(Workbench& w, const Grid& formulas, const std::string& missing
   caricaParametri(row, w.Formula);
   writeRowHits(
       w, verifyRow(w.archive, playWindow(w), caseDraws(w), w.Formula, [&](ParametriFormula& p) { evaluate(row, p); }));
+  noteTriedRow(w, row);
   w.shell().status("Verifica riga selezionata: " + counted(w.FgEv.dataRows(), "caso", "casi"));
 }
 
@@ -134,6 +139,7 @@ void verificaTutte(Workbench& w, Table table) {
   scriveStatistica(w, traits.section, w.FgSSS.text(1, traits.markColumn - case_column::kHits), verified.totals.hits,
                    countMisses(verified, open));
   PopolaGrafico(w);
+  noteStatistics(w, w.hits(table));
   w.shell().status("Verifica tutte le righe: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
                    counted(verified.totals.hits, "esito", "esiti"));
 }
@@ -160,7 +166,7 @@ void verificaOltreLimite(Workbench& w, Table table) {
   for (int row = 1; row < w.FgEv.rows(); ++row) scope.leftOut.push_back(!isOpen(w, row));
   const Verification verified = verifyTable(w, table, scope);
   if (traits.clearsMarksBeyondLimit) clearMarks(w, traits.markColumn);
-  writeHits(w, table, verified, traits.marksBeyondLimit);
+  writeHits(w, table, verified, traits.marksBeyondLimit, true);
   coloraEsiti(w, table);
   markOpenCases(w);
   azzeraStatistiche(w);

@@ -8,7 +8,7 @@
 namespace trv5 {
 
 /// All that an operation on the workbench can read or change, as values: every grid by its name, what every other
-/// control shows, the state behind them.
+/// control shows, the state behind them. The labels that tell how the results stand are left out.
 struct WorkbenchSnapshot {
   WorkbenchSnapshot() = default;
   explicit WorkbenchSnapshot(const Workbench& w);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "cases/origin.h"
+
+namespace trv5 {
+
+/// What the results on the workbench were made from: a plain value beside their grids, to be kept and put back with
+/// them.
+struct ResultOrigins {
+  /// By the name of the grid that shows the result.
+  std::map<std::string, std::vector<Origin>, std::less<>> made;
+  /// Of the marks in the columns S1..S5, LU of `FgEv`.
+  std::array<std::vector<Origin>, 6> marks;
+  /// The marks that the totals `FgSSS` counted.
+  std::vector<int> counted;
+  /// The search that filled `FgF`: section, shape, operator, cases, wheels.
+  std::string ranking;
+
+  bool operator==(const ResultOrigins&) const = default;
+};
+
+}  // namespace trv5

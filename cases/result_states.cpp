@@ -1,0 +1,256 @@
+#include "cases/result_states.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "cases/case_rows.h"
+#include "cases/chosen_situation.h"
+#include "cases/formula_rows.h"
+
+namespace trv5 {
+namespace {
+
+using Sources = std::vector<Origin>;
+using Reason = std::optional<std::string>;
+
+const Sources& sourcesOf(const Workbench& w, std::string_view grid) {
+  static const Sources kNone;
+  const auto found = w.origins.made.find(grid);
+  return found == w.origins.made.end() ? kNone : found->second;
+}
+
+void setSources(Workbench& w, const GridControl& grid, Sources from) {
+  w.origins.made[grid.name()] = std::move(from);
+}
+
+void addTo(Sources& all, const Sources& more) {
+  for (const Origin& origin : more)
+    if (std::find(all.begin(), all.end(), origin) == all.end()) all.push_back(origin);
+}
+
+// The situation that the listed cases come from, and these.
+Origin casesOrigin(const Workbench& w) {
+  Origin origin;
+  if (const Sources& list = sourcesOf(w, w.FgEv.name()); !list.empty()) origin.situation = list.front().situation;
+  origin.cases = caseDraws(w);
+  return origin;
+}
+
+// The wheels that a formula was found on play no part in its table.
+std::vector<FormulaRow> formulasOf(const Workbench& w, Table table) {
+  std::vector<FormulaRow> rows = readFormulas(w.formulas(table));
+  for (FormulaRow& row : rows) row.wheels = 0;
+  return rows;
+}
+
+// What an operation would find chosen now.
+Origin chosenNow(const Workbench& w) {
+  Origin now;
+  now.situation = chosenSituation(w);
+  now.cases = caseDraws(w);
+  now.wheels = WheelSet{0};
+  for (int wheel = 0; wheel < kWheels; ++wheel)
+    if (w.FgRG.back(0, wheel) == Verde) *now.wheels |= 1U << wheel;
+  now.colpi = w.ComboColpi.number();
+  now.reference = w.EstrazioneRiferimento;
+  now.archiveEnd = w.archive.UltimaEstrazione();
+  now.sorte = w.ComboSorte.number();
+  for (const TableTraits& table : kTables) now.formulas[indexOf(table.table)] = formulasOf(w, table.table);
+  now.summary = {w.ChA.checked(), w.ChB.checked(), w.ChC.checked(), w.Ch1esito.checked()};
+  return now;
+}
+
+Origin tableOrigin(const Workbench& w, Table table) {
+  Origin origin = casesOrigin(w);
+  origin.wheels = w.RuoteGioco;
+  origin.colpi = w.Colpi;
+  origin.reference = w.EstrazioneRiferimento;
+  origin.table = table;
+  return origin;
+}
+
+// The hits that a summary of these tables joins.
+Sources joinedHits(const Workbench& w, const SummaryChoice& choice) {
+  Sources all;
+  const std::pair<bool, Table> chosen[] = {
+      {choice.ambate, Table::Ambate}, {choice.ambi, Table::Ambi}, {choice.terni, Table::Terni}};
+  for (const auto& [joined, table] : chosen)
+    if (joined && w.hits(table).hasData()) addTo(all, sourcesOf(w, w.hits(table).name()));
+  return all;
+}
+
+// Text and green of each cell of S1..S5, LU.
+std::vector<int> marksOf(const Workbench& w) {
+  std::vector<int> marks;
+  for (int row = 1; row < w.FgEv.rows(); ++row)
+    for (int column = case_column::kHits; column <= case_column::kLunghetta; ++column)
+      marks.push_back(2 * w.FgEv.number(row, column) + (isCovered(w, row, column) ? 1 : 0));
+  return marks;
+}
+
+// What isn't hits itself tells when it was made from those of a row tried by itself.
+Reason triedReason(const Sources& from) {
+  for (const Origin& origin : from)
+    if (origin.tried) return "Fatto con gli esiti della riga provata " + shortFormula(*origin.tried);
+  return {};
+}
+
+Reason noReason(const Workbench&, const Sources&) {
+  return {};
+}
+
+Reason marksReason(const Workbench& w, const Sources& from) {
+  if (w.origins.counted != marksOf(w)) return "I segni sull'elenco sono cambiati dopo il conteggio";
+  return triedReason(from);
+}
+
+// Also of the statistics where they are those of a summary.
+Reason summaryReason(const Workbench& w, const Sources& from) {
+  if (from.empty() || !from.back().summary) return {};
+  const Sources now = joinedHits(w, *from.back().summary);
+  if (!std::equal(from.begin(), from.end() - 1, now.begin(), now.end())) return "Gli esiti riassunti sono cambiati";
+  return triedReason(from);
+}
+
+bool hasRows(const Grid& grid) {
+  return grid.hasData();
+}
+bool hasTotals(const Grid& totals) {
+  return !totals.text(0, 0).empty();
+}
+bool hasSection(const Grid& statistics) {
+  return !statistics.text(0, 1).empty();
+}
+
+// A result that tells when it no longer fits: its grid, when that shows one, and what it has to look at beside the
+// parts of its origins.
+struct ResultRow {
+  const char* grid;
+  bool (*shown)(const Grid&);
+  Reason (*reason)(const Workbench&, const Sources&);
+};
+
+constexpr ResultRow kResults[] = {
+    {"FgEv", hasRows, noReason},
+    {"FgSSS", hasTotals, marksReason},
+    {"FgZ1", hasRows, noReason},
+    {"FgZ2", hasRows, noReason},
+    {"FgZ3", hasRows, noReason},
+    {"FgZ0", hasRows, noReason},
+    {"Fg_Stat", hasSection, summaryReason},
+    {"FgZZ", hasRows, summaryReason},
+};
+
+std::string labelOf(const ResultRow& row) {
+  return std::string("LblStato_") + row.grid;
+}
+
+Reason reasonOf(const Workbench& w, const ResultRow& row, const Origin& now) {
+  const Sources& from = sourcesOf(w, row.grid);
+  for (const Origin& origin : from)
+    if (Reason reason = reasonOf(origin, now)) return reason;
+  return from.empty() ? Reason() : row.reason(w, from);
+}
+
+void show(Label& label, const std::string& text, const std::string& toolTip) {
+  if (label.toolTip() != toolTip) label.setToolTip(toolTip);
+  label.setText(text);
+}
+
+void showResults(Workbench& w) {
+  std::optional<Origin> now;
+  for (const ResultRow& row : kResults) {
+    Reason reason;
+    if (row.shown(w.get<GridControl>(row.grid))) {
+      if (!now) now = chosenNow(w);
+      reason = reasonOf(w, row, *now);
+    }
+    show(w.get<Label>(labelOf(row)), reason ? "non aggiornato" : "", reason.value_or(""));
+  }
+}
+
+void showTriedRow(Workbench& w) {
+  const Sources& from = sourcesOf(w, w.FgZ1.name());
+  const bool tried = w.FgZ1.hasData() && !from.empty() && from.front().tried;
+  const std::string text = tried ? "Esiti della riga provata " + shortFormula(*from.front().tried) : "";
+  show(w.LblRigaProvata, text, text);
+}
+
+void showReference(Workbench& w) {
+  const int last = w.archive.UltimaEstrazione(), back = last - w.EstrazioneRiferimento;
+  w.LblUltima.setText(back > 0 ? fmt::format("{} · {} prima dell'ultima", w.EstrazioneRiferimento, back)
+                               : fmt::format("{} · ultima", w.EstrazioneRiferimento));
+}
+
+}  // namespace
+
+Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit) {
+  Origin origin = tableOrigin(w, table);
+  const int joined = traitsOf(table).joinedTables;
+  for (const Table read : {Table::Ambate, Table::Ambi, Table::Terni, Table::Lunghetta})
+    if (read == table || static_cast<int>(indexOf(read)) < joined) origin.formulas[indexOf(read)] = formulasOf(w, read);
+  if (table == Table::Lunghetta) origin.sorte = w.ComboSorte.number();
+  if (beyondLimit) origin.archiveEnd = w.archive.UltimaEstrazione();
+  return origin;
+}
+
+void noteCases(Workbench& w) {
+  Origin origin;
+  origin.situation = chosenSituation(w);
+  setSources(w, w.FgEv, {origin});
+  w.origins.marks = {};
+}
+
+void noteHits(Workbench& w, Table table, bool beyondLimit) {
+  setSources(w, w.hits(table), {verificationOrigin(w, table, beyondLimit)});
+}
+
+void noteTriedRow(Workbench& w, const FormulaRow& row) {
+  Origin origin = tableOrigin(w, Table::Ambate);
+  origin.tried = row;
+  setSources(w, w.FgZ1, {origin});
+  noteMarks(w, case_column::kHits + w.Sorte - 1, {origin});
+}
+
+void noteMarks(Workbench& w, int column, const std::vector<Origin>& from) {
+  addTo(w.origins.marks[static_cast<std::size_t>(column - case_column::kHits)], from);
+}
+
+void noteElaboration(Workbench& w) {
+  noteMarks(w, case_column::kLunghetta, {verificationOrigin(w, Table::Lunghetta)});
+}
+
+void noteTotals(Workbench& w) {
+  Sources from = {casesOrigin(w)};
+  for (const Sources& column : w.origins.marks) addTo(from, column);
+  setSources(w, w.FgSSS, std::move(from));
+  w.origins.counted = marksOf(w);
+}
+
+void noteStatistics(Workbench& w, const GridControl& from) {
+  setSources(w, w.Fg_Stat, sourcesOf(w, from.name()));
+}
+
+void noteSummary(Workbench& w) {
+  const SummaryChoice choice = {w.ChA.checked(), w.ChB.checked(), w.ChC.checked(), w.Ch1esito.checked()};
+  Sources from = joinedHits(w, choice);
+  Origin own = casesOrigin(w);
+  own.summary = choice;
+  from.push_back(std::move(own));
+  setSources(w, w.FgZZ, std::move(from));
+}
+
+void MostraStati(Workbench& w) {
+  showResults(w);
+  showTriedRow(w);
+  show(w.LblOrigine, w.FgF.hasData() ? w.origins.ranking : "", w.FgF.hasData() ? w.origins.ranking : "");
+  showReference(w);
+}
+
+void connectResultStates(Workbench& w) {
+  for (const ResultRow& row : kResults) w.addLabel(labelOf(row));
+  w.settled = w.shell().operations().whenSettled([&w] { MostraStati(w); });
+}
+
+}  // namespace trv5
