@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "engine/colouring.h"
 #include "engine/evaluation.h"
+#include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
 
 namespace trv5 {
@@ -87,6 +88,10 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
   writeAllRows(w, kNr, button.nr);
   writeAllRows(w, kQn, button.qn);
   ColoraFgF(w);
+  noteRanking(w, {.table = Table::Ambate,
+                  .shape = button.shape,
+                  .wheelsOfSet = button.wheelsOfSet,
+                  .cases = static_cast<int>(request.cases.size())});
   if (!ranking.empty()) chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: " + counted(static_cast<int>(ranking.size()), "formula", "formule"));

@@ -11,6 +11,7 @@
 #include "engine/evaluation.h"
 #include "engine/hit_sources.h"
 #include "engine/lunghetta.h"
+#include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
 
 namespace trv5 {
@@ -74,6 +75,7 @@ void CercaCompagni(Workbench& w, const CompanionButton& button) {
   writeAllRows(w, kAlteration, w.Combo1R_1N.text());
   writeAllRows(w, kNr, button.nr);
   writeAllRows(w, kQn, button.qn);
+  noteRanking(w, {.table = button.table, .shape = button.shape});
   closeCompanionSearch(w, button.table);
 }
 

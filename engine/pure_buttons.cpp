@@ -11,6 +11,7 @@
 #include "engine/evaluation.h"
 #include "engine/hit_sources.h"
 #include "engine/lunghetta.h"
+#include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
 
 namespace trv5 {
@@ -76,8 +77,9 @@ void CercaNumeri(Workbench& w, int wheelsOfSet) {
   const std::vector<WheelSet> sets = wheelsOfSet == 0 ? std::vector<WheelSet>{w.RuoteGioco} : wheelSetsOf(wheelsOfSet);
   const int steps = wheelsOfSet == 0 ? w.FgEv.dataRows() : static_cast<int>(sets.size());
   w.shell().progress(0, steps);
+  const std::vector<int> cases = countingCases(w);
   const std::vector<NumberRow> rows =
-      overwritePassByPass(countNumbers(w.archive, countingCases(w), w.Colpi, w.EstrazioneRiferimento, sets));
+      overwritePassByPass(countNumbers(w.archive, cases, w.Colpi, w.EstrazioneRiferimento, sets));
   w.shell().progress(steps, steps);
 
   const Grid::Batch batch(w.FgF);
@@ -93,6 +95,7 @@ void CercaNumeri(Workbench& w, int wheelsOfSet) {
   writeAllRows(w, kNr, "0");
   writeAllRows(w, kQn, "1");
   ColoraFgF(w);
+  noteRanking(w, {.wheelsOfSet = wheelsOfSet, .cases = static_cast<int>(cases.size())});
   chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: 90 numeri");
@@ -121,6 +124,7 @@ void CercaNumeriCompagni(Workbench& w, Table table) {
   w.FgF.sortByNumber(kCc, true);
   writeAllRows(w, kNr, "0");
   writeAllRows(w, kQn, "0");
+  noteRanking(w, {.table = table});
   closeCompanionSearch(w, table);
 }
 

@@ -293,5 +293,32 @@ TEST(ReferenceDraw, TellsHowFarBackItLies) {
   EXPECT_EQ(w.LblUltima.text(), "50 · ultima");
 }
 
+TEST(RankingOrigin, NamesTheSearchItsCasesAndWheels) {
+  const auto world = finishedMethod(8);
+  Workbench& w = world->w;
+  world->playOn({2});
+  w.ChFix1R.set(true);
+  w.Combo1R_2N.pick(1);
+  w.ComboNC.pick(4);
+  world->press("Command44");
+  EXPECT_EQ(w.LblOrigine.text(), "");
+  world->press("Command23");
+  EXPECT_EQ(w.LblOrigine.text(), "Ambate · 2N 1R · N1+N2 · 5 casi · FI");
+  world->press("Command16");
+  EXPECT_EQ(w.LblOrigine.text(), "Ambate · 2N 1R · N1+N2 · 5 casi · migliori 2 ruote");
+  w.Combo1R_1N.pick(3);
+  w.ChFix1R.set(false);
+  w.Label17.click();
+  world->press("Command20");
+  EXPECT_EQ(w.LblOrigine.text(), "Ambate · 1N 1R · DEC · senza fix · 5 casi · tutte le ruote");
+  world->press("Command99");
+  EXPECT_EQ(w.LblOrigine.text(), "Ambate · NUM · 5 casi · migliori 3 ruote");
+  world->press("Command29");
+  world->press("Command105");
+  EXPECT_EQ(w.LblOrigine.text(), "Ambi · NUM · 5 casi · tutte le ruote");
+  world->press("Command41");
+  EXPECT_EQ(w.LblOrigine.text(), "");
+}
+
 }  // namespace
 }  // namespace trv5
