@@ -21,6 +21,15 @@ std::string nowText(int count, const char* none) {
   return count == 1 ? "ora è 1" : fmt::format("ora sono {}", count);
 }
 
+bool differ(const std::optional<int>& then, const std::optional<int>& now) {
+  return then && now && *then != *now;
+}
+
+Reason ofReference(const Origin& then, const Origin& now) {
+  if (!differ(then.reference, now.reference)) return {};
+  return fmt::format("Fatto sull'estrazione {}, ora {}", *then.reference, *now.reference);
+}
+
 Reason ofSituation(const Origin& then, const Origin& now) {
   if (!then.situation || !now.situation) return {};
   const Situation& was = *then.situation;
@@ -53,13 +62,7 @@ Reason ofFormulas(const Origin& then, const Origin& now) {
   return {};
 }
 
-bool differ(const std::optional<int>& then, const std::optional<int>& now) {
-  return then && now && *then != *now;
-}
-
 Reason ofPlay(const Origin& then, const Origin& now) {
-  if (differ(then.reference, now.reference))
-    return fmt::format("Fatto sull'estrazione {}, ora {}", *then.reference, *now.reference);
   if (differ(then.archiveEnd, now.archiveEnd))
     return fmt::format("Fatto fino all'estrazione {}, ora l'ultima è {}", *then.archiveEnd, *now.archiveEnd);
   if (then.cases && now.cases && *then.cases != *now.cases) return "L'elenco dei casi è cambiato";
@@ -93,7 +96,7 @@ std::string joint(const std::string& operation) {
 }  // namespace
 
 std::optional<std::string> reasonOf(const Origin& then, const Origin& now) {
-  for (Reason (*const part)(const Origin&, const Origin&) : {ofSituation, ofPlay})
+  for (Reason (*const part)(const Origin&, const Origin&) : {ofReference, ofSituation, ofPlay})
     if (Reason reason = part(then, now)) return reason;
   if (Reason reason = ofFormulas(then, now)) return reason;
   return ofSummary(then, now);

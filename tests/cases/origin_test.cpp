@@ -73,7 +73,7 @@ TEST(Origin, TellsWhereTheCasesComeFrom) {
   EXPECT_EQ(reason(verification(), now), "Fatto con N° casi 20, ora 30");
   now.situation->wheel = 5;
   EXPECT_EQ(reason(verification(), now), "La situazione scelta è cambiata");
-  now.situation->reference = 7353;
+  now.situation->reference = 7353;  // verified anew at the reference draw of now, on the cases of before
   EXPECT_EQ(reason(verification(), now), "I casi sono stati ricavati sull'estrazione 7370, ora 7353");
   Origin list;
   list.situation = verification().situation;
