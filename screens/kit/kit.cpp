@@ -131,6 +131,18 @@ QLabel* Kit::label(std::string_view name, Type type) {
   return widget;
 }
 
+StateMark* Kit::stateMark(std::string_view grid) {
+  auto* const widget = new StateMark(QStringLiteral("non aggiornato"));
+  bind(static_cast<QLabel&>(*widget), control<Label>("LblStato_" + std::string(grid)));
+  return widget;
+}
+
+SmallNote* Kit::note(std::string_view name, Qt::TextElideMode gives, Qt::Alignment at) {
+  auto* const widget = new SmallNote(gives, at);
+  bind(static_cast<QLabel&>(*widget), control<Label>(name));
+  return widget;
+}
+
 ClickLabel* Kit::clickLabel(std::string_view name, Type type, char mnemonic) {
   auto* const widget = new ClickLabel;
   setType(*widget, type);

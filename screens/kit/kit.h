@@ -22,6 +22,7 @@
 #include "screens/kit/click_label.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/layouts.h"
+#include "screens/kit/state_mark.h"
 
 namespace trv5 {
 
@@ -66,6 +67,10 @@ class Kit {
   /// A label with an operation, as a key of its own (`LblPN`).
   QToolButton* key(std::string_view name);
   QLabel* label(std::string_view name, Type type = Type::Base);
+  /// "non aggiornato" where a result no longer fits what it was made from; the control is named by its grid.
+  StateMark* stateMark(std::string_view grid);
+  /// A label as a small note that takes the room there is.
+  SmallNote* note(std::string_view name, Qt::TextElideMode gives, Qt::Alignment at = Qt::AlignLeft);
   /// A label with an operation, shown as text.
   ClickLabel* clickLabel(std::string_view name, Type type = Type::Base, char mnemonic = 0);
   /// The same with a square of colour before the text.

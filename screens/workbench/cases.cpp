@@ -18,11 +18,12 @@ class CaseTotals : public QWidget {
         m_totals(*kit.grid("FgSSS", {.name = QStringLiteral("Totali dei casi"), .fixedHeight = true})),
         m_span(Kit::text(QStringLiteral("Estrazioni considerate"), Type::Hint)),
         m_spanValue(kit.label("Label5", Type::Title)),
+        m_state(kit.stateMark("FgSSS")),
         m_hits(Kit::text(QStringLiteral("N° esiti"), Type::Small)),
         m_covered(Kit::text(QStringLiteral("Casi coperti"), Type::Small)) {
     for (QWidget* const part :
          {static_cast<QWidget*>(&m_totals), static_cast<QWidget*>(m_span), static_cast<QWidget*>(m_spanValue),
-          static_cast<QWidget*>(m_hits), static_cast<QWidget*>(m_covered)})
+          static_cast<QWidget*>(m_state), static_cast<QWidget*>(m_hits), static_cast<QWidget*>(m_covered)})
       part->setParent(this);
     for (QLabel* const caption : {m_hits, m_covered}) caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_totals.setToolTip(QStringLiteral("Totali di S1, S2, S3 e LU"));
@@ -76,14 +77,26 @@ class CaseTotals : public QWidget {
     const int caption = std::max(m_hits->sizeHint().width(), m_covered->sizeHint().width());
     m_hits->setGeometry(x - gap - caption, frame, caption, row);
     m_covered->setGeometry(x - gap - caption, frame + row, caption, row);
-    const int span = m_span->sizeHint().width();
-    m_span->setGeometry(0, 0, span, height());
-    m_spanValue->setGeometry(span + gap, 0, std::max(0, x - 2 * gap - caption - span - gap), height());
+    placeSpan(x - 2 * gap - caption, row);
+  }
+
+  // What stands left of the captions. Without room for the mark beside the span the span takes the lower row.
+  void placeSpan(int right, int row) {
+    const int gap = Theme::current().unit(), frame = m_totals.frameWidth();
+    const int span = m_span->sizeHint().width(), state = m_state->sizeHint().width();
+    const int value = QFontMetrics(Theme::current().title()).horizontalAdvance(QStringLiteral("88888"));
+    m_state->setGeometry(right - state, frame, state, row);
+    const bool beside = span + gap + value + gap + state <= right;
+    const int y = beside ? 0 : frame + row, high = beside ? height() : row;
+    m_span->setGeometry(0, y, span, high);
+    m_spanValue->setGeometry(span + gap, y, std::max(0, right - span - gap - (beside ? gap + state : 0)), high);
   }
 
   GridView& m_cases;
   GridView& m_totals;
-  QLabel *m_span, *m_spanValue, *m_hits, *m_covered;
+  QLabel *m_span, *m_spanValue;
+  StateMark* m_state;
+  QLabel *m_hits, *m_covered;
 };
 
 std::vector<QString> caseSamples() {
@@ -114,7 +127,7 @@ WorkbenchCases::WorkbenchCases(Workbench& w, QWidget* parent) : QWidget(parent) 
                                             .tight = true});
   setLayout(column(
       {flow({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true})},
-            {kit.button("Command27", {.kind = ButtonKind::Quiet, .icon = "broom"})}),
+            {kit.stateMark("FgEv"), kit.button("Command27", {.kind = ButtonKind::Quiet, .icon = "broom"})}),
        {cases, 1},
        new CaseTotals(kit, *cases)}));
   setFocusProxy(cases);

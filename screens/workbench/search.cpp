@@ -67,9 +67,12 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
   };
   QListWidget* const times = kit.lines("List1", 2, QStringLiteral("88:88:88"));
   times->setAccessibleName(QStringLiteral("Inizio e fine della ricerca"));
-  body()->addLayout(flow({m_title}, {times, kit.button("Command3", {.kind = ButtonKind::Quiet}),
-                                     kit.button("Cmd_Colora_fgf", {.kind = ButtonKind::Quiet}),
-                                     captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888")))}));
+  QBoxLayout* const head = column({m_title, kit.note("LblOrigine", Qt::ElideRight)});
+  head->setSpacing(0);
+  body()->addLayout(row({{holding(head), 1},
+                         holding(flow({}, {times, kit.button("Command3", {.kind = ButtonKind::Quiet}),
+                                           kit.button("Cmd_Colora_fgf", {.kind = ButtonKind::Quiet}),
+                                           captioned("&Elenco", kit.combo("ComboEle", QStringLiteral("888")))}))}));
   body()->addLayout(flow({captioned("&Alteraz", kit.combo("Combo1R_1N", QStringLiteral("D x U"))),
                           captioned("Opera&zione", kit.combo("Combo1R_2N", QStringLiteral("N1 X N2"))),
                           captioned("Fi&x", kit.combo("ComboFix", QStringLiteral("88"))), kit.check("ChFix1R")},

@@ -57,6 +57,16 @@ class TwoColumns : public QWidget {
   GridView* m_grid;
 };
 
+// How the hits stand; where a row may be verified by itself, also whose they are.
+QWidget* stateOf(Kit& kit, const SorteTab& names) {
+  StateMark* const mark = kit.stateMark(names.hits);
+  if (names.verifyRow == nullptr) {
+    mark->takeRest();
+    return mark;
+  }
+  return new NoteAndMark(kit.note("LblRigaProvata", Qt::ElideLeft, Qt::AlignRight), mark);
+}
+
 }  // namespace
 
 std::vector<QString> hitSamples() {
@@ -108,7 +118,10 @@ QWidget* sorteTab(Workbench& w, const SorteTab& names, QLayout* above) {
                                      quiet(names.clean, "broom")};
   if (names.extended != nullptr) utilities.push_back(kit.button(names.extended, {.icon = "columns"}));
   GridView* const hits = kit.grid(names.hits, {.name = named("Esiti"), .samples = hitSamples()});
-  return leftAndRight(column(left), column({{hits, 1}, flow(utilities)}), hits);
+  QWidget* const state = stateOf(kit, names);
+  QBoxLayout* const below = row({{holding(flow(utilities)), 0}, {state, 1}});
+  below->setSpacing(0);  // what is free lies between them
+  return leftAndRight(column(left), column({{hits, 1}, below}), hits);
 }
 
 }  // namespace trv5

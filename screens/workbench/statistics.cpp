@@ -76,11 +76,13 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
       m_bars(nullptr),
       m_countsHolder(nullptr),
       m_legend(legend()),
+      m_state(nullptr),
       m_title(Kit::text(QStringLiteral("Statistiche"), Type::Title)),
       m_grid(new QGridLayout) {
   Kit kit(w);
   m_counts = kit.grid("Fg_Stat", {.name = QStringLiteral("Statistiche")});
   m_bars = kit.grid("Fg_Graf", {.name = QStringLiteral("Grafico delle statistiche")});
+  m_state = kit.stateMark("Fg_Stat");
   m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
   for (QWidget* const part : {static_cast<QWidget*>(m_title), m_legend}) part->setParent(this);
   body()->addLayout(m_grid, 1);
@@ -96,7 +98,8 @@ void WorkbenchStatistics::setWide(bool wide, bool longBars) {
 }
 
 void WorkbenchStatistics::arrange() {
-  for (QWidget* const part : {static_cast<QWidget*>(m_title), m_countsHolder, static_cast<QWidget*>(m_bars), m_legend})
+  for (QWidget* const part : {static_cast<QWidget*>(m_title), m_countsHolder, static_cast<QWidget*>(m_bars),
+                              static_cast<QWidget*>(m_state), m_legend})
     m_grid->removeWidget(part);
   // Where it is narrow the two grids fill it to its edges: no panel around them.
   setProperty("panel", m_wide);
@@ -122,17 +125,19 @@ void WorkbenchStatistics::arrange() {
     bars.minRow = line * 3 / 2;
     bars.maxRow = line * 54 / 19;
     m_grid->addWidget(m_title, 0, 0, 1, 2);
-    m_grid->addWidget(m_countsHolder, 1, 0, 2, 1);
+    m_grid->addWidget(m_countsHolder, 1, 0, 3, 1);
     m_grid->addWidget(m_bars, 1, 1);
-    m_grid->addWidget(m_legend, 2, 1);
+    m_grid->addWidget(m_state, 2, 1, Qt::AlignLeft);
+    m_grid->addWidget(m_legend, 3, 1);
   } else {
     bars.tight = true;
     m_grid->addWidget(m_countsHolder, 0, 0);
     m_grid->addWidget(m_bars, 1, 0);
+    m_grid->addWidget(m_state, 2, 0, Qt::AlignLeft);
   }
   m_grid->setRowStretch(0, m_wide ? 0 : m_counts->grid().rows());
   m_grid->setRowStretch(1, m_bars->grid().rows());
-  m_grid->setRowStretch(2, m_wide ? 1 : 0);
+  m_grid->setRowStretch(3, m_wide ? 1 : 0);
   m_grid->setColumnStretch(1, m_wide ? 1 : 0);
   m_counts->setMaximumWidth(m_wide ? 18 * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8')
                                    : QWIDGETSIZE_MAX);

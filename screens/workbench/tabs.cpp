@@ -50,7 +50,7 @@ QWidget* summaryTab(Workbench& w) {
     if (!sample.isEmpty()) sample.prepend(sample.size() < 5 ? QStringLiteral("888") : QString());
   return pageOf(
       {row({kit.check("ChA"), kit.check("ChB"), kit.check("ChC"), Piece::space(), separator(Qt::Vertical),
-            Piece::space(), kit.check("Ch1esito"), Piece::gap(),
+            Piece::space(), kit.check("Ch1esito"), Piece::gap(), kit.stateMark("FgZZ"),
             kit.button("Command86", {.kind = ButtonKind::Primary, .icon = "play"}), quiet(kit, "Command96", "print"),
             quiet(kit, "Command98", "copy"), quiet(kit, "Command97", "broom")}),
        {kit.grid("FgZZ", {.name = QStringLiteral("Riepilogo"), .samples = samples}), 1}});
