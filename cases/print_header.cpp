@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "cases/formula_rows.h"
+#include "core/text.h"
 #include "core/wheels.h"
 #include "method/detection.h"
 
@@ -24,6 +25,13 @@ std::string positionsText(const PositionFlags& chosen) {
   return text.empty() ? "nessuna" : text;
 }
 
+// The kind with its value.
+std::string kindText(const Workbench& w, const std::string& numbers) {
+  const SituationKind kind = situationKindOf(w.TipoRilevazione).value_or(SituationKind::Mensile);
+  const bool period = kind == SituationKind::Mensile || kind == SituationKind::Ciclo || kind == SituationKind::NumPari;
+  return w.TipoRilevazione + " " + (!period ? numbers : w.ValoreMensile == 0 ? "U" : std::to_string(w.ValoreMensile));
+}
+
 // What narrows the situation beside its value, as far as its kind goes by it.
 std::string conditionsText(const Workbench& w, SituationKind kind, bool two) {
   const bool numbers = kind == SituationKind::Numeri;
@@ -42,9 +50,7 @@ std::string conditionsText(const Workbench& w, SituationKind kind, bool two) {
 std::string situationText(const Workbench& w) {
   const SituationKind kind = situationKindOf(w.TipoRilevazione).value_or(SituationKind::Mensile);
   const bool two = w.Ch_analisi2ruote.checked();
-  const bool period = kind == SituationKind::Mensile || kind == SituationKind::Ciclo || kind == SituationKind::NumPari;
-  std::string text = "Situazione: " + w.TipoRilevazione + " ";
-  text += !period ? w.TestoNumeri : w.ValoreMensile == 0 ? "U" : std::to_string(w.ValoreMensile);
+  std::string text = "Situazione: " + kindText(w, w.TestoNumeri);
   text += two ? ", ruote " + wheelsText(w.RuoteRilevazione)
               : ", ruota " + std::string(CodiciRuote[static_cast<std::size_t>(w.RuotaRilevazione)]);
   if (kind != SituationKind::Mensile && kind != SituationKind::Ciclo)
@@ -66,6 +72,14 @@ std::string formulaText(const Grid& table, int row) {
 }
 
 }  // namespace
+
+std::string methodName(const Workbench& w) {
+  std::string name(trimmed(w.Txt_Denominazione.text()));
+  if (!name.empty() || !w.FgEv.hasData()) return name;
+  name = kindText(w, w.TestoNumeri);
+  if (w.Ch_analisi2ruote.checked()) return name + " su 2 ruote";
+  return name + " " + std::string(CodiciRuote[static_cast<std::size_t>(w.RuotaRilevazione)]);
+}
 
 std::vector<std::string> methodHeader(const Workbench& w, const DateTime& now) {
   std::vector<std::string> lines;

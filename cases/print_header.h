@@ -12,4 +12,8 @@ namespace trv5 {
 /// that have any, the day of the print.
 std::vector<std::string> methodHeader(const Workbench& w, const DateTime& now);
 
+/// What the method is called: its name where it has one, else the situation of its cases in a few words, empty without
+/// cases.
+std::string methodName(const Workbench& w);
+
 }  // namespace trv5

@@ -132,16 +132,18 @@ void ContainerScreen::foldRail() {
   m_focusBefore = nullptr;
 }
 
-void ContainerScreen::setArchiveName(std::function<QString()> name) {
-  m_archiveName = std::move(name);
+void ContainerScreen::setWork(std::function<QStringList()> work) {
+  m_work = std::move(work);
   showTitle();
 }
 
 // Only the desktop's title tells more: the window's own stays the form's.
 void ContainerScreen::showTitle() {
-  const QString archive = m_archiveName ? m_archiveName() : QString();
+  QStringList parts = {windowTitle()};
+  if (m_work) parts += m_work();
+  parts.removeAll(QString());
   if (QWindow* const window = windowHandle())
-    window->setTitle(archive.isEmpty() ? windowTitle() : windowTitle() + QStringLiteral(" · ") + archive);
+    if (const QString title = parts.join(QStringLiteral(" · ")); window->title() != title) window->setTitle(title);
 }
 
 // With its frame the window stays on the desktop, so that the status bar is in sight.

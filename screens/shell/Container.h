@@ -41,8 +41,10 @@ class ContainerScreen : public QMainWindow {
   void showStatus(const QString& text);
   /// A quiet button beside the status text, until the next text or offer; an empty caption takes it away.
   void showOffer(const QString& caption, const QString& toolTip, std::function<void()> taken);
-  /// Tells which archive is at work; the desktop's title of the window names it.
-  void setArchiveName(std::function<QString()> name);
+  /// Tells what is at work, the archive and the method; the desktop's title of the window names it.
+  void setWork(std::function<QStringList()> work);
+  /// Asks for it again.
+  void showTitle();
 
   /// False when no place is remembered yet.
   bool restore(const QSettings& settings);
@@ -86,7 +88,6 @@ class ContainerScreen : public QMainWindow {
   void keepInSight(int widthBefore);
   void setWide(bool wide);
   void foldRail();
-  void showTitle();
   void fitDesktop();
   QSize naturalSize(const QMdiSubWindow& window) const;
   QMdiSubWindow* windowOf(const QWidget& screen) const;
@@ -120,7 +121,7 @@ class ContainerScreen : public QMainWindow {
   bool m_wideEmpty = true, m_wideOpen = false;
   bool m_shownOnce = false;
   bool m_toFit = false;  // the window is no longer maximised
-  std::function<QString()> m_archiveName;
+  std::function<QStringList()> m_work;
   QPointer<QWidget> m_focusBefore;  // the panel was opened by a key or its button
 };
 

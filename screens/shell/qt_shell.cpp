@@ -141,6 +141,12 @@ QtShell::Open& QtShell::open(const ScreenEntry& entry) {
   return opened;
 }
 
+QStringList QtShell::work() const {
+  QStringList parts = {qs(m_program->loadedArchive.stem().string())};
+  for (const std::unique_ptr<Open>& opened : m_open) parts += qs(opened->entry->work(*opened->form));
+  return parts;
+}
+
 void QtShell::place(Open& opened) {
   QWidget& widget = *opened.widget;
   if (opened.entry->place == Place::Window) {
@@ -151,7 +157,10 @@ void QtShell::place(Open& opened) {
     bool maximised = false;
     if (auto* const window = qobject_cast<ContainerScreen*>(&widget)) {
       maximised = m_settings != nullptr && !window->restore(*m_settings);
-      window->setArchiveName([this] { return qs(m_program->loadedArchive.stem().string()); });
+      window->setWork([this] { return work(); });
+      m_titleFollows = operations().whenSettled([this] {
+        if (ContainerScreen* const shown = shellWindow()) shown->showTitle();
+      });
       connect(window, &ContainerScreen::helpWanted, this, &QtShell::helpOfFront);
       connect(window, &ContainerScreen::nextScreenWanted, this, &QtShell::showNext);
       connect(window, &ContainerScreen::closedByUser, this, [this](const QString& name) { close(name.toStdString()); });

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QSettings>
+#include <QStringList>
 #include <memory>
 #include <string>
 #include <vector>
@@ -86,6 +87,7 @@ class QtShell : public QObject, public Shell {
   void place(Open& opened);
   void toFront(std::string_view screen);
   void tellShellWindow();
+  QStringList work() const;
   HelpViewer& helpWindow();
   void emptyProgress();
 
@@ -95,6 +97,7 @@ class QtShell : public QObject, public Shell {
   std::vector<std::unique_ptr<Open>> m_closed;  // waiting for the end of the operation that closed them
   std::unique_ptr<QSettings> m_settings;
   std::unique_ptr<HelpViewer> m_help;
+  std::shared_ptr<void> m_titleFollows;  // what is at work, after each operation
   bool m_purgeAsked = false, m_opening = false, m_emptyAsked = false;
 };
 

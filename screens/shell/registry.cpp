@@ -1,5 +1,6 @@
 #include "screens/shell/registry.h"
 
+#include "cases/print_header.h"
 #include "cases/selections.h"
 #include "configs/dds_field.h"
 #include "configs/import_export.h"
@@ -52,7 +53,8 @@ ScreenEntry workbench() {
                             return w;
                           },
                       .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
-                      .load = [](Form& form) { ApreBanco(static_cast<Workbench&>(form)); }};
+                      .load = [](Form& form) { ApreBanco(static_cast<Workbench&>(form)); },
+                      .work = [](const Form& form) { return methodName(static_cast<const Workbench&>(form)); }};
   return made;
 }
 

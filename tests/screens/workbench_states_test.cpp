@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QScrollBar>
+#include <QWindow>
 
 #include "screens/kit/state_mark.h"
 #include "screens/workbench/last_draw_label.h"
@@ -57,6 +58,19 @@ TEST(WorkbenchStates, TheChipGoesBackToTheLastDrawAndFitsTheBar) {
     QTest::mouseClick(&label, Qt::LeftButton);
     EXPECT_EQ(world.form().hs1.value(), world.form().hs1.maximum());
   }
+}
+
+TEST(WorkbenchStates, TheDesktopsTitleNamesTheMethod) {
+  WorkbenchShell world;
+  const auto title = [&world] { return world.main().windowHandle()->title(); };
+  const QString before = title();
+  auto& name = world.form().Txt_Denominazione;
+  name.set(" Firenze d'estate ");
+  EXPECT_EQ(title(), before + QStringLiteral(" · Firenze d'estate"));
+  name.set("");
+  EXPECT_EQ(title(), before);
+  verifyAMethod(world);
+  EXPECT_TRUE(title().startsWith(before + QStringLiteral(" · Mensile "))) << title().toStdString();
 }
 
 }  // namespace
