@@ -127,7 +127,8 @@ int GridView::visibleRowCount() const {
 
 // Of rows that stretch: a line of text, but for a map, which has none in its cells.
 int GridView::leastRow() const {
-  return std::max(m_look.minRow, m_look.minColumn > 0 ? 1 : QFontMetrics(m_cellFont).height());
+  if (m_look.minRow > 0) return m_look.minRow;
+  return m_look.minColumn > 0 ? 1 : QFontMetrics(m_cellFont).height();
 }
 
 void GridView::layoutRows() {

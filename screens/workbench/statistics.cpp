@@ -116,8 +116,9 @@ void WorkbenchStatistics::arrange() {
                      .toolTip = meaning};
   GridLook bars = {.name = QStringLiteral("Grafico delle statistiche")};
   if (!m_longBars) bars.samples = {QStringLiteral("Casi Coperti"), QStringLiteral("88"), QStringLiteral("8888.88")};
-  // In a low window the rows draw together down to a line of text, so that the rest of the road has its rows too.
-  counts.minRow = bars.minRow = line;
+  // In a low window the rows draw together down to the letters of a line, which leave some of it free, so that the rest
+  // of the road has its rows too.
+  counts.minRow = bars.minRow = line * 8 / 9;
   counts.maxRow = bars.maxRow = Theme::current().row();
   counts.whole = bars.whole = true;
   if (m_wide) {
