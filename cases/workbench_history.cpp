@@ -22,11 +22,12 @@ std::string told(const char* what, const std::string& name) {
 }  // namespace
 
 WorkbenchMemory WorkbenchMemory::of(const Workbench& w) {
-  return {.state = w};
+  return {.state = w, .origins = w.origins};
 }
 
 void WorkbenchMemory::putBack(Workbench& w) const {
   static_cast<WorkbenchState&>(w) = state;
+  w.origins = origins;
 }
 
 std::size_t WorkbenchMemory::bytes() const {

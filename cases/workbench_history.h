@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "cases/result_origins.h"
 #include "cases/workbench_state.h"
 #include "core/control_state.h"
 #include "core/undo_history.h"
@@ -18,6 +19,7 @@ class Workbench;
 /// has its line here, in its two functions, and is taken back with the rest.
 struct WorkbenchMemory {
   WorkbenchState state;
+  ResultOrigins origins;
   bool operator==(const WorkbenchMemory&) const = default;
 
   static WorkbenchMemory of(const Workbench& w);

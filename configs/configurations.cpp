@@ -78,7 +78,7 @@ void ElencaConfigurazioni(Workbench& w) {
   // The one saved or reloaded last is easy to find, though no row is current.
   if (const int row = rowNamed(w, w.Txt_Denominazione.text())) w.FgPir1.showRow(row);
   if (const int count = w.FgPir1.dataRows(); count > 0)
-    w.shell().status(fmt::format("ELENCO: {} configurazion{}", count, count == 1 ? "e" : "i"));
+    w.shell().status("ELENCO: " + counted(count, "configurazione", "configurazioni"));
 }
 
 void CancellaConfigurazione(Workbench& w) {
