@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -51,6 +52,8 @@ struct WorkbenchHooks {
   std::function<Database&()> mainDatabase = []() -> Database& {
     throw UserError("Il database principale non è aperto.");
   };
+  /// The program's folder; empty for none.
+  std::function<std::filesystem::path()> folder = [] { return std::filesystem::path(); };
   /// The draws of a case in the mini list, the numbers that made it marked.
   std::function<void(const FoundElement& first, const std::optional<FoundElement>& second)> showDraws =
       [](const FoundElement&, const std::optional<FoundElement>&) {};

@@ -19,6 +19,23 @@ std::string told(const char* what, const std::string& name) {
   return name.empty() ? std::string(what) + " l'ultima modifica" : std::string(what) + ": " + name;
 }
 
+std::size_t bytesOf(const std::vector<Origin>& origins) {
+  std::size_t bytes = origins.capacity() * sizeof(Origin);
+  for (const Origin& origin : origins) {
+    if (origin.cases) bytes += origin.cases->capacity() * sizeof(int);
+    for (const auto& rows : origin.formulas)
+      if (rows) bytes += rows->capacity() * sizeof(FormulaRow);
+  }
+  return bytes;
+}
+
+std::size_t bytesOf(const ResultOrigins& origins) {
+  std::size_t bytes = origins.ranking.capacity();
+  for (const auto& [grid, made] : origins.made) bytes += sizeof made + sizeof grid + bytesOf(made);
+  for (const auto& marks : origins.marks) bytes += bytesOf(marks);
+  return bytes;
+}
+
 }  // namespace
 
 WorkbenchMemory WorkbenchMemory::of(const Workbench& w) {
@@ -31,7 +48,7 @@ void WorkbenchMemory::putBack(Workbench& w) const {
 }
 
 std::size_t WorkbenchMemory::bytes() const {
-  return sizeof *this + state.NumeriInGioco.capacity() * sizeof(NumberFlags);
+  return sizeof *this + state.NumeriInGioco.capacity() * sizeof(NumberFlags) + bytesOf(origins);
 }
 
 bool WorkbenchMoment::operator==(const WorkbenchMoment& other) const {
@@ -110,12 +127,12 @@ const GridState& gridIn(const FormState& state, const GridControl& grid) {
 
 void AnnullaOperazione(Workbench& w) {
   const std::string name = w.history.canUndo() ? w.history.undoName() : "";
-  if (w.history.undo()) w.shell().status(told("Annullato", name));
+  w.shell().status(w.history.undo() ? told("Annullato", name) : "Non c'è nulla da annullare");
 }
 
 void RipeteOperazione(Workbench& w) {
   const std::string name = w.history.canRedo() ? w.history.redoName() : "";
-  if (w.history.redo()) w.shell().status(told("Ripetuto", name));
+  w.shell().status(w.history.redo() ? told("Ripetuto", name) : "Non c'è nulla da ripetere");
 }
 
 }  // namespace trv5

@@ -21,21 +21,7 @@ void reload(Workbench& w, std::int64_t key) {
   const Database& database = w.hooks.mainDatabase();
   const auto head = loadHead(database, key, configurationFieldNames());
   if (!head) throw UserError("La configurazione non c'è più.");
-  layFields(w, *head, ReloadStep::Values);
-  layFields(w, *head, ReloadStep::Marks);
-  layFields(w, *head, ReloadStep::RowCounts);
-  const QueryRows rows = loadRows(database, key);
-  bindGrid(w.FgDett, rows);
-  layRows(w, rowsOf(rows));
-  Colora_fg00(w);
-  for (const Table table : {Table::Ambate, Table::Ambi, Table::Terni}) coloraFormule(w.formulas(table));
-  w.button("Command44").press();
-  constexpr std::pair<Table, const char*> verifications[] = {{Table::Ambate, "Command29"},
-                                                             {Table::Ambi, "Command34"},
-                                                             {Table::Terni, "Command48"},
-                                                             {Table::Lunghetta, "Command51"}};
-  for (const auto& [table, verifyAll] : verifications)
-    if (w.formulas(table).hasData()) w.button(verifyAll).press();
+  disponeConfigurazione(w, *head, [&] { return loadRows(database, key); });
 }
 
 // The row of that name, without regard to case; 0 for none.
@@ -106,6 +92,22 @@ bool ricaricaChiave(Workbench& w, std::int64_t key) {
     w.shell().message({.text = "Errore imprevisto. ", .title = "Anomalia nel database", .reason = error.what()});
     return false;
   }
+}
+
+void disponeConfigurazione(Workbench& w, const std::vector<Field>& head, const std::function<QueryRows()>& rows) {
+  for (const ReloadStep step : {ReloadStep::Values, ReloadStep::Marks, ReloadStep::RowCounts}) layFields(w, head, step);
+  const QueryRows stored = rows();
+  bindGrid(w.FgDett, stored);
+  layRows(w, rowsOf(stored));
+  Colora_fg00(w);
+  for (const Table table : {Table::Ambate, Table::Ambi, Table::Terni}) coloraFormule(w.formulas(table));
+  w.button("Command44").press();
+  constexpr std::pair<Table, const char*> verifications[] = {{Table::Ambate, "Command29"},
+                                                             {Table::Ambi, "Command34"},
+                                                             {Table::Terni, "Command48"},
+                                                             {Table::Lunghetta, "Command51"}};
+  for (const auto& [table, verifyAll] : verifications)
+    if (w.formulas(table).hasData()) w.button(verifyAll).press();
 }
 
 std::int64_t chiaveDellaRiga(const Workbench& w, int row) {

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <vector>
 
 #include "cases/workbench.h"
+#include "configs/configuration.h"
+#include "configs/query_rows.h"
 
 namespace trv5 {
 
@@ -22,6 +26,10 @@ void RicaricaConfigurazione(Workbench& w, int row);
 
 /// The same for a key, with the reload's message where it fails; false then.
 bool ricaricaChiave(Workbench& w, std::int64_t key);
+
+/// Lays a configuration on the reset workbench and runs it: fields, the rows that `rows` reads once the fields stand,
+/// colours, detection, verifications. Throws UserError; the workbench stays as far as it got.
+void disponeConfigurazione(Workbench& w, const std::vector<Field>& head, const std::function<QueryRows()>& rows);
 
 /// The key in column 1 of a row of `FgPir1`; 0 where there is none.
 std::int64_t chiaveDellaRiga(const Workbench& w, int row);

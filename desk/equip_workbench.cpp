@@ -4,6 +4,7 @@
 #include "cases/result_states.h"
 #include "cases/selections.h"
 #include "configs/configurations.h"
+#include "configs/draft.h"
 #include "desk/undo_offer.h"
 #include "desk/workbench_buttons.h"
 #include "engine/evaluation.h"
@@ -55,7 +56,11 @@ void equipWorkbench(Workbench& w) {
 
 void connectDatabase(Workbench& w, const Program& program) {
   w.hooks.mainDatabase = [&program]() -> Database& { return program.mainDatabase(); };
-  w.hooks.listConfigurations = [&w] { w.button("Cmd_Elenco").press(); };
+  w.hooks.folder = [&program] { return program.folder; };
+  w.hooks.listConfigurations = [&w] {
+    w.button("Cmd_Elenco").press();
+    offerDraft(w);
+  };
 }
 
 }  // namespace trv5

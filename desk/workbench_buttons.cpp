@@ -6,6 +6,7 @@
 #include "cases/selections.h"
 #include "cases/workbench_history.h"
 #include "configs/configurations.h"
+#include "configs/draft.h"
 #include "core/numbers.h"
 #include "engine/ambata_buttons.h"
 #include "engine/candidate_check.h"
@@ -222,6 +223,8 @@ constexpr WorkbenchButton kInformazioni[] = {
 constexpr WorkbenchButton kConfigurazioni[] = {
     {"Command4", "Salva configurazione", "Salva tutto il metodo con la sua denominazione", run<SalvaConfigurazione>},
     {"Cmd_Elenco", "ELENCO", "Legge di nuovo l'elenco delle configurazioni", run<ElencaConfigurazioni>},
+    {"Cmd_Riprendi", "Riprendi il lavoro", "Il lavoro che stava sul banco alla chiusura del programma",
+     run<RiprendiLavoro>},
     {"Command54", "Cancella selezionata", "Cancella la configurazione selezionata", run<CancellaConfigurazione>},
 };
 

@@ -38,7 +38,8 @@ int StateMark::wholeWidth() const {
 
 QSize StateMark::sizeHint() const {
   const QFontMetrics metrics(Theme::current().small());
-  return {m_rest ? iconSize() : wholeWidth(), std::max(iconSize(), metrics.height())};
+  const int least = text().isEmpty() ? 0 : iconSize();
+  return {m_rest ? least : wholeWidth(), std::max(iconSize(), metrics.height())};
 }
 
 void StateMark::paintEvent(QPaintEvent*) {

@@ -235,6 +235,13 @@ void QtShell::purge() {
 }
 
 void QtShell::closeAll() {
+  for (const std::unique_ptr<Open>& opened : m_open) {
+    try {
+      opened->entry->end(*opened->form);
+    } catch (const std::exception&) {
+      // The program ends all the same; what was saved is saved.
+    }
+  }
   // The screens inside the shell's window go before the window.
   const auto inside = [](const std::unique_ptr<Open>& opened) { return opened->entry->place != Place::Window; };
   while (!m_open.empty()) {

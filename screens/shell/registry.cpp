@@ -3,6 +3,7 @@
 #include "cases/print_header.h"
 #include "cases/selections.h"
 #include "configs/dds_field.h"
+#include "configs/draft.h"
 #include "configs/import_export.h"
 #include "core/container.h"
 #include "core/inizio.h"
@@ -54,6 +55,7 @@ ScreenEntry workbench() {
                           },
                       .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
                       .load = [](Form& form) { ApreBanco(static_cast<Workbench&>(form)); },
+                      .end = [](Form& form) { keepDraft(static_cast<Workbench&>(form)); },
                       .work = [](const Form& form) { return methodName(static_cast<const Workbench&>(form)); }};
   return made;
 }

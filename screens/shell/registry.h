@@ -32,6 +32,8 @@ struct ScreenEntry {
   std::function<QWidget*(Form&)> makeWidget;
   /// The load of the form, run once after its widget was made.
   std::function<void(Form&)> load = [](Form&) {};
+  /// Run when the program ends.
+  std::function<void(Form&)> end = [](Form&) {};
   /// What the user is at work on there, for the window's title; empty for nothing.
   std::function<std::string(const Form&)> work = [](const Form&) { return std::string(); };
 };

@@ -43,7 +43,8 @@ constexpr const char* kRoad[] = {
     "Command93", "FgIC", "Command63", "Fg15", "FgGioco", "Command106", "SSTab4", "FgRagg", "Command109", "Command110",
     "Command114", "Command115", "Command116", "FgConv", "Command9", "OptionRit_0", "OptionRit_1", "OptionRit_2",
     "Command88", "Command76", "Ch_coperture", "ComboDelta", "Command111", "Command112", "Command113", "Command104",
-    "Command89", "FgRit", "Txt_Denominazione", "Command4", "Cmd_Elenco", "Txt_FiltroConfig", "Command54", "FgPir1",
+    "Command89", "FgRit", "Txt_Denominazione", "Command4", "Cmd_Riprendi", "Cmd_Elenco", "Txt_FiltroConfig",
+    "Command54", "FgPir1",
     // Statistiche.
     "Fg_Stat", "Fg_Graf"};
 

@@ -50,11 +50,11 @@ void LastDrawLabel::paintEvent(QPaintEvent*) {
   const bool chip = isChip();
   QPainter painter(this);
   painter.setFont(fontOf(chip));
-  if (chip) {
+  if (chip || hasFocus()) {
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal line = hasFocus() ? 2 : 1;
     painter.setPen(QPen(toColor(c.accent), line));
-    painter.setBrush(toColor(c.field));
+    if (chip) painter.setBrush(toColor(c.field));
     painter.drawRoundedRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2), 4, 4);
   }
   painter.setPen(toColor(chip ? c.accent : c.text2));

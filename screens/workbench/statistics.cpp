@@ -83,6 +83,7 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
   m_counts = kit.grid("Fg_Stat", {.name = QStringLiteral("Statistiche")});
   m_bars = kit.grid("Fg_Graf", {.name = QStringLiteral("Grafico delle statistiche")});
   m_state = kit.stateMark("Fg_Stat");
+  m_state->takeRest();  // its word must not widen the panel: a larger font and back would leave it wide
   m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
   for (QWidget* const part : {static_cast<QWidget*>(m_title), m_legend}) part->setParent(this);
   body()->addLayout(m_grid, 1);
@@ -128,13 +129,13 @@ void WorkbenchStatistics::arrange() {
     m_grid->addWidget(m_title, 0, 0, 1, 2);
     m_grid->addWidget(m_countsHolder, 1, 0, 3, 1);
     m_grid->addWidget(m_bars, 1, 1);
-    m_grid->addWidget(m_state, 2, 1, Qt::AlignLeft);
+    m_grid->addWidget(m_state, 2, 1);
     m_grid->addWidget(m_legend, 3, 1);
   } else {
     bars.tight = true;
     m_grid->addWidget(m_countsHolder, 0, 0);
     m_grid->addWidget(m_bars, 1, 0);
-    m_grid->addWidget(m_state, 2, 0, Qt::AlignLeft);
+    m_grid->addWidget(m_state, 2, 0);
   }
   m_grid->setRowStretch(0, m_wide ? 0 : m_counts->grid().rows());
   m_grid->setRowStretch(1, m_bars->grid().rows());

@@ -145,7 +145,8 @@ QWidget* configurationsTab(Workbench& w) {
   filter->addAction(icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
   QWidget* const save = pageOf(
       {Kit::text(QStringLiteral("&Denominazione (Max 100 caratteri)"), Type::Hint, name), name,
-       row({Piece::gap(), kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"})}), hint, Piece::gap()});
+       row({Piece::gap(), kit.button("Command4", {.kind = ButtonKind::Primary, .icon = "save"})}), hint, Piece::gap(),
+       row({kit.button("Cmd_Riprendi", {.kind = ButtonKind::Quiet, .icon = "reload"}), Piece::gap()})});
   GridView* const saved =
       kit.grid("FgPir1", {.name = QStringLiteral("Configurazioni salvate"),
                           .samples = {{}, QStringLiteral("888"), QString(30, u'n'), QStringLiteral("8888")}});

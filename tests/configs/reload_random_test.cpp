@@ -89,7 +89,7 @@ TEST(ReloadRandom, BringsEveryStoredControlAndCellBackAndTheHitsOfAFreshRun) {
   ConfigurationWorld world(randomRows(rng, 120));
   Workbench& w = world.w();
   const int runs = randomRuns(500);
-  int verified = 0;
+  int verified = 0;  // grids of hits that held some
   // The detection may clear a text that is no value of its kind: what came back is looked at before it.
   std::string back;
   // What a fresh run starts from, the carried state included: it is stale on purpose, and verifications read it.
@@ -126,10 +126,10 @@ TEST(ReloadRandom, BringsEveryStoredControlAndCellBackAndTheHitsOfAFreshRun) {
     for (const char* grid : {"FgEv", "FgZ1", "FgZ2", "FgZ3", "FgZ0", "FgSSS", "Fg_Stat", "Fg_Graf", "Fg15"}) {
       const Grid& fresh = dynamic_cast<const Grid&>(*w.find(grid));
       ASSERT_EQ(difference(reloaded.grids.at(grid), fresh), "") << grid;
-      verified += fresh.rows() > 1 && std::string_view(grid) == "FgZ1" ? 1 : 0;
+      verified += fresh.rows() > 1 && std::string_view(grid).starts_with("FgZ") ? 1 : 0;
     }
   }
-  EXPECT_GT(verified * 10, runs) << "of the runs some hits are compared";
+  EXPECT_GT(verified * 4, runs) << "of the runs some hits are compared";
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ TEST(WorkbenchButtons, StandOnceEachAndReachTheWorkbench) {
       EXPECT_TRUE(row.run == nullptr || button.toolTip() == row.toolTip) << row.name;
     }
   }
-  EXPECT_EQ(names.size(), 123U);
+  EXPECT_EQ(names.size(), 124U);
 }
 
 TEST(WorkbenchButtons, OpenTheTabsThatHaveAnOperationToOffer) {

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QComboBox>
@@ -145,7 +146,8 @@ TEST(WorkbenchUndo, OtherWindowsStayAsTheyAre) {
   w.button("Command41").press();
   while (w.history.canUndo()) w.button("Cmd_Annulla").press();
   settle();
-  EXPECT_EQ(world.shell.openScreens(), open);
+  // The workbench comes to the front, as the keys that undo are pressed there.
+  EXPECT_THAT(world.shell.openScreens(), testing::UnorderedElementsAreArray(open));
   std::size_t at = 0;
   for (const std::string& name : open)
     if (name != "Sommativi1" && name != "Container") {
@@ -153,8 +155,8 @@ TEST(WorkbenchUndo, OtherWindowsStayAsTheyAre) {
     }
 }
 
-TEST(WorkbenchUndo, TheTwoCommandsTellTheirKeys) {
-  WorkbenchShell world;
+TEST(WorkbenchUndo, TheTwoCommandsTellTheirKeysWhereTheBarIsWide) {
+  WorkbenchShell world({1920, 1080});
   EXPECT_EQ(world.find("Cmd_Annulla").accessibleDescription(), QStringLiteral("Ctrl+Z"));
   EXPECT_FALSE(world.find("Cmd_Annulla").isEnabled());
   world.form().FgNu.clickCell(0, 0);
