@@ -185,13 +185,15 @@ bool Sommativi1Screen::layOut() {
       width(),         height(),         wide,           static_cast<int>(Theme::current().density()),
       top.width(),     top.height(),     bottom.width(), bottom.height(),
       m_rows->width(), m_rows->height(), leastTop(wide)};
-  if (std::exchange(m_laidOutFor, now) == now) return false;
+  const bool settled = std::exchange(m_laidOutFor, now) == now;
   for (const Handle& handle : m_handles) {
     if (QLayout* const around = handle.splitter->parentWidget()->layout()) around->activate();
     const auto moved = m_moved.find(memoryKey(handle.name));
-    handle.splitter->setSizes(moved == m_moved.end() ? defaultSizes(handle.name) : moved.value());
+    const QList<int> wanted = moved == m_moved.end() ? defaultSizes(handle.name) : moved.value();
+    // A part that has only now become smaller may have held a handle back.
+    if (!settled || handle.splitter->sizes() != wanted) handle.splitter->setSizes(wanted);
   }
-  return true;
+  return !settled;
 }
 
 // Again until the parts have settled: how much they need depends on their widths.

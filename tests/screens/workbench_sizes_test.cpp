@@ -86,7 +86,5 @@ TEST(WorkbenchSizesInTheShell, ALargerFontAndBackRestoresTheLayout) {
   }
 }
 
-// PROBE
-
 }  // namespace
 }  // namespace trv5
