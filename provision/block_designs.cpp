@@ -90,6 +90,36 @@ Blocks steinerTriples(int v) {
   throw std::invalid_argument("no triples over this many numbers");
 }
 
+Blocks kirkmanTriples() {
+  // Number i * 7 + a is the element a of Z(7) in the copy i. Inside each copy, between the copies and with the fixed
+  // number the differences of this round give each element once.
+  constexpr int kFixed = 14;
+  const std::array<std::array<int, 3>, 5> round = {
+      {{0, 7 + 0, kFixed}, {1, 2, 4}, {3, 7 + 1, 7 + 5}, {5, 7 + 4, 7 + 6}, {6, 7 + 2, 7 + 3}}};
+  Blocks rounds;
+  for (int shift = 0; shift < 7; ++shift) {
+    Blocks rows;
+    for (const auto& triple : round) {
+      std::vector<int>& row = rows.emplace_back();
+      for (const int place : triple)
+        row.push_back(place == kFixed ? kFixed + 1 : place / 7 * 7 + (place + shift) % 7 + 1);
+    }
+    rows = sorted(std::move(rows));
+    rounds.insert(rounds.end(), rows.begin(), rows.end());
+  }
+  return rounds;
+}
+
+Blocks binaryQuadruples(int bits) {
+  const int size = 1 << bits;
+  Blocks blocks;
+  for (int a = 0; a < size; ++a)
+    for (int b = a + 1; b < size; ++b)
+      for (int c = b + 1; c < size; ++c)
+        if (const int d = a ^ b ^ c; d > c) blocks.push_back({a + 1, b + 1, c + 1, d + 1});
+  return blocks;
+}
+
 Blocks affinePlane(int q) {
   const FiniteField field(q);
   Blocks blocks;

@@ -4,13 +4,21 @@
 
 namespace trv5 {
 
-/// Rows of numbers from 1 on, each in rising order, the rows in rising order of their numbers. In all designs below two
-/// numbers stand together in one row at most.
+/// Rows of numbers from 1 on, each in rising order, the rows in rising order of their numbers. Where a design below
+/// tells nothing else two numbers stand together in one row at most.
 using Blocks = std::vector<std::vector<int>>;
 
 /// Triples over 1..v in which each pair stands once, for v = 1 or 3 modulo 6 and at least 7: the constructions of Bose
 /// (v = 3 modulo 6) and Skolem (v = 1 modulo 6).
 Blocks steinerTriples(int v);
+
+/// 35 triples over 1..15 in which each pair stands once, in seven rounds: five rows that follow each other hold each
+/// number once. The rounds are the sums of one with the elements of Z(7), over 7 + 7 numbers and a fixed one, the last.
+Blocks kirkmanTriples();
+
+/// The quadruples over 2^bits numbers whose ranks, from 0, add up to 0 bit by bit: each triple stands in one row, so a
+/// pair in several.
+Blocks binaryQuadruples(int bits);
 
 /// The lines of the plane over the field of q elements: q * q points, each pair on one line of q points.
 Blocks affinePlane(int q);
