@@ -47,6 +47,12 @@ bool Grid::operator==(const Grid& other) const {
          m_hiddenColumns == other.m_hiddenColumns && m_merged == other.m_merged && m_bars == other.m_bars;
 }
 
+bool Grid::headingHasText() const {
+  for (int column = 0; m_headingRows > 0 && column < m_columns; ++column)
+    if (!text(0, column).empty()) return true;
+  return false;
+}
+
 int Grid::number(int row, int column) const {
   return numberOf(text(row, column));
 }

@@ -40,6 +40,8 @@ class Grid {
   int rows() const { return m_rows; }
   int columns() const { return m_columns; }
   int headingRows() const { return m_headingRows; }
+  /// True when the heading has a text: one without is there for operations that count rows.
+  bool headingHasText() const;
   /// Rows below the heading.
   int dataRows() const { return m_rows - m_headingRows; }
   bool hasData() const { return m_rows > m_headingRows; }

@@ -9,6 +9,8 @@
 #include <QMimeData>
 #include <QStandardPaths>
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 #include "core/file_writer.h"
 #include "core/grid_text.h"
@@ -107,25 +109,37 @@ FileBox GridView::exportBox(const char* title, const char* filter, const char* e
       .title = title, .folder = folder.toStdString(), .filter = filter, .defaultExtension = extension, .name = name};
 }
 
+int GridView::fittedWidth(int column, const std::vector<int>& rows) const {
+  const QFontMetrics cells(m_cellFont), bold(m_strongFont), headings(m_headingFont);
+  int width = cells.horizontalAdvance(u'8');
+  std::size_t longest = 0;
+  std::unordered_set<std::string_view> measured;  // measuring a text costs far more than looking for it
+  for (const int row : rows) {
+    const Cell& cell = m_grid.at(row, column);
+    // A text that is clearly shorter than the longest so far can't be wider.
+    if (cell.text.size() * 2 < longest) continue;
+    longest = std::max(longest, cell.text.size());
+    const bool heading = row < m_grid.headingRows();
+    if (!heading && !cell.bold && !measured.insert(cell.text).second) continue;
+    const QFontMetrics& metrics = heading ? headings : cell.bold ? bold : cells;
+    width = std::max(width, metrics.horizontalAdvance(qs(cell.text).trimmed()));
+  }
+  return width + padding();
+}
+
 void GridView::fitColumns() {
   sync();
-  const QFontMetrics cells(m_cellFont), bold(m_strongFont), headings(m_headingFont);
   const std::vector<int> rows = visibleRows(m_grid);
-  for (const int column : visibleColumns(m_grid)) {
-    if (isColumnHidden(column)) continue;
-    int width = cells.horizontalAdvance(u'8');
-    std::size_t longest = 0;
-    for (const int row : rows) {
-      const Cell& cell = m_grid.at(row, column);
-      // A text that is clearly shorter than the longest so far can't be wider.
-      if (cell.text.size() * 2 < longest) continue;
-      longest = std::max(longest, cell.text.size());
-      const QFontMetrics& metrics = row < m_grid.headingRows() ? headings : cell.bold ? bold : cells;
-      width = std::max(width, metrics.horizontalAdvance(qs(cell.text).trimmed()));
-    }
-    m_userWidths[column] = width + Theme::current().unit() + 4;
-  }
+  for (const int column : visibleColumns(m_grid))
+    if (!isColumnHidden(column)) m_userWidths[column] = fittedWidth(column, rows);
   layoutColumns();
+}
+
+void GridView::fitAsAsked() {
+  if (!m_look.fitsFill) return fitColumns();
+  m_userWidths.clear();
+  const std::vector<int> rows = visibleRows(m_grid);
+  for (const int column : visibleColumns(m_grid)) m_gridWidths[column] = fittedWidth(column, rows);
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {

@@ -53,7 +53,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     return;
   // A merged block has its text once, and again at the top of the view when the block begins above it.
   if (m_view.continuesAbove(row, column) && index.row() != m_view.rowAt(0)) return;
-  const bool strong = cell.bold || (m_view.look().pad && cell.back != kWhite);
+  const std::vector<int>& strongOnes = m_view.look().strong;
+  const bool strong = cell.bold || (m_view.look().pad && cell.back != kWhite) ||
+                      std::find(strongOnes.begin(), strongOnes.end(), column) != strongOnes.end();
   const QFont& font = m_view.cellFont(strong);
   painter->setFont(font);
   const Rgb ink = grid.aside() ? kLightColours.text2 : readableInk(cell.fore, behind);

@@ -30,6 +30,7 @@ int GridView::naturalWidth(int column) const {
   const auto inCells = [this](const QString& text) { return advance(m_cellAdvances, m_cellFont, text); };
   int width = inCells(QStringLiteral("8"));
   if (column >= m_grid.columns()) return width;  // gone from the grid, not yet from the model
+  if (const auto fitted = m_gridWidths.find(column); fitted != m_gridWidths.end()) return fitted->second;
   const QString heading = m_grid.headingRows() > 0 ? qs(m_grid.text(0, column)) : QString();
   const QString sample = static_cast<std::size_t>(column) < m_look.samples.size()
                              ? m_look.samples[static_cast<std::size_t>(column)]
@@ -41,7 +42,11 @@ int GridView::naturalWidth(int column) const {
     return m_grid.width(column) / 15;  // the grid's own unit is a twentieth of a point, 15 of them a pixel
   if (sample.isEmpty() && heading.isEmpty() && m_grid.hasData())
     width = std::max(width, QFontMetrics(m_cellFont).horizontalAdvance(qs(m_grid.text(m_grid.headingRows(), column))));
-  return width + (m_look.tight ? 4 : Theme::current().unit() + 4);
+  return width + padding();
+}
+
+int GridView::padding() const {
+  return m_look.tight ? 4 : Theme::current().unit() + 4;
 }
 
 int GridView::evenWidth() const {
@@ -65,8 +70,8 @@ void GridView::noteUserWidth(int column, int width) {
   layoutColumns();
 }
 
-// As wide as their texts, or as the user wants them; the room left over is shared, up to 1.6 times, and what is left
-// even so goes to one column.
+// As wide as their texts, or as the user wants them; the room left over is shared, as a rule up to 1.6 times, and what
+// is left even so goes to one column.
 std::vector<int> GridView::ownWidths(const std::vector<int>& columns, int room) const {
   std::vector<int> widths;
   int alike = 0;
@@ -82,7 +87,8 @@ std::vector<int> GridView::ownWidths(const std::vector<int>& columns, int room) 
     if (!m_userWidths.contains(columns[i])) free += widths[i];
   }
   if (total >= room || free == 0) return widths;
-  const double factor = std::min(1.6, 1.0 + double(room - total) / free);
+  const double most = m_look.fitsFill ? room : 1.6;
+  const double factor = std::min(most, 1.0 + double(room - total) / free);
   int used = 0;
   for (std::size_t i = 0; i < columns.size(); ++i) {
     if (!m_userWidths.contains(columns[i])) widths[i] = static_cast<int>(widths[i] * factor);
@@ -151,7 +157,7 @@ QSize GridView::sizeHint() const {
   for (int column = 0; column < m_model->columnCount(); ++column)
     if (!isColumnHidden(column)) width += m_look.even && column >= m_look.evenFrom ? even : naturalWidth(column);
   if (verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff) width += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
+  const int heading = m_look.heading && m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
   const int rows = m_look.pad || m_look.fixedHeight || m_look.whole ? visibleRowCount() : 8;
   const int row = m_look.whole ? std::max(leastRow(), m_look.maxRow)
                                : std::max(m_look.minRow, verticalHeader()->defaultSectionSize());
@@ -161,7 +167,7 @@ QSize GridView::sizeHint() const {
 QSize GridView::minimumSizeHint() const {
   const QSize hint = sizeHint();
   const bool whole = m_look.pad || m_look.fixedHeight || m_look.whole;
-  const int heading = m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
+  const int heading = m_look.heading && m_grid.headingRows() > 0 ? horizontalHeader()->height() : 0;
   const int row = m_look.minRow > 0 ? leastRow() : verticalHeader()->defaultSectionSize();
   return {whole ? hint.width() : std::min(hint.width(), 120),
           heading + (whole ? visibleRowCount() : 2) * row + 2 * frameWidth()};

@@ -40,7 +40,7 @@ class Sheet {
     PageRequest request{.columnWidths = {},
                         .rows = static_cast<int>(m_rows.size()),
                         .rowHeight = metrics.height() + 3,
-                        .headingHeight = m_grid.headingRows() > 0 ? metrics.height() + 5 : 0,
+                        .headingHeight = m_grid.headingHasText() ? metrics.height() + 5 : 0,
                         .titleHeight = m_title.empty() ? 0 : static_cast<double>(m_title.size()) * metrics.height() + 8,
                         .pageWidth = width,
                         // The foot holds the number of the page.

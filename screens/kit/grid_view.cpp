@@ -30,7 +30,7 @@ GridView::GridView(GridControl& grid, GridLook look, QWidget* parent)
   verticalHeader()->setVisible(false);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  horizontalHeader()->setVisible(grid.headingRows() > 0);
+  horizontalHeader()->setVisible(m_look.heading && grid.headingRows() > 0);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
     // A column that is hidden or shown again is resized too.
     if (!m_layingOut && !m_following && width > 0) noteUserWidth(column, width);
@@ -59,7 +59,7 @@ void GridView::setLook(GridLook look) {
   const bool keys = m_look.pad || m_look.fixedHeight || m_look.whole;
   setSelectionMode(m_look.pad ? NoSelection : ExtendedSelection);
   setVerticalScrollBarPolicy(keys ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
-  const bool fits = keys || (m_look.even && m_look.minColumn == 0);
+  const bool fits = keys || (m_look.even && m_look.minColumn == 0 && !m_look.sideways);
   setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
   followTheme();
 }
@@ -74,6 +74,7 @@ void GridView::followTheme() {
   m_headingFont = theme.small(true);
   m_cellAdvances.clear();
   m_headingAdvances.clear();
+  m_gridWidths.clear();  // of the font before
   horizontalHeader()->setFixedHeight(theme.heading());
   // A strip of keys stands among buttons and lists, as high as they are.
   const int row = m_look.pad && m_look.fixedHeight ? theme.control() - 2 * frameWidth() : theme.row();
@@ -122,7 +123,7 @@ void GridView::followGrid() {
   m_following = false;
   if (m_fitsAsked != m_grid.fitsAsked()) {
     m_fitsAsked = m_grid.fitsAsked();
-    fitColumns();
+    fitAsAsked();
   }
   layoutColumns();
   layoutRows();

@@ -23,17 +23,21 @@ struct GridLook {
   std::vector<int> folded = {};      ///< columns out of sight as long as they are empty in all rows
   std::vector<int> heavyAfter = {};  ///< columns followed by a heavier line
   std::vector<int> alike = {};       ///< columns of one width, whichever of them the user draws
-  int restTo = -1;                   ///< the column that takes the room left over; -1: the last in sight
-  bool pad = false;                  ///< cells are keys: click, drag to paint, Space; no row frame, no selection
-  bool even = false;                 ///< all columns equally wide, filling the view
-  int evenFrom = 0;                  ///< the first of the even columns; those before it are as wide as their text
-  bool tight = false;                ///< little padding in the cells
-  int minColumn = 0;                 ///< least width of an even column in pixels; 0: the widest text
-  int minRow = 0, maxRow = 0;        ///< rows stretch with the view between these heights; 0: the theme's row height
-  bool whole = false;                ///< with stretching rows: all of them are in sight, the view is no higher
-  double points = 0;                 ///< size of the cells' font; 0: the base font
-  bool fixedHeight = false;          ///< as high as its rows, no scroll bar
-  bool atEnd = false;                ///< opens scrolled to its last row, and stays there when its size changes
+  bool fitsFill = false;         ///< columns share all the room left over, also those that the grid asks to be fitted
+  int restTo = -1;               ///< the column that takes the room left over; -1: the last in sight
+  bool pad = false;              ///< cells are keys: click, drag to paint, Space; no row frame, no selection
+  bool even = false;             ///< all columns equally wide, filling the view
+  int evenFrom = 0;              ///< the first of the even columns; those before it are as wide as their text
+  bool heading = true;           ///< false: for a heading without text, which takes no room then
+  bool sideways = false;         ///< an even grid scrolls sideways where its columns find no room
+  std::vector<int> strong = {};  ///< columns written in weight 600
+  bool tight = false;            ///< little padding in the cells
+  int minColumn = 0;             ///< least width of an even column in pixels; 0: the widest text
+  int minRow = 0, maxRow = 0;    ///< rows stretch with the view between these heights; 0: the theme's row height
+  bool whole = false;            ///< with stretching rows: all of them are in sight, the view is no higher
+  double points = 0;             ///< size of the cells' font; 0: the base font
+  bool fixedHeight = false;      ///< as high as its rows, no scroll bar
+  bool atEnd = false;            ///< opens scrolled to its last row, and stays there when its size changes
   /// What a cell without colours of its own is drawn with, by its column; the grid itself stays as it is.
   std::function<Cell(int column)> colours = {};
   /// The tooltip of a cell, given its place in the grid.
@@ -63,7 +67,7 @@ class GridView : public QTableView {
   void exportCsv();
   void exportXlsx();
   void printTable();
-  /// Fits all columns to what they hold now.
+  /// Fits all columns to what they hold now; they keep these widths.
   void fitColumns();
 
   const QFont& cellFont(bool strong) const { return strong ? m_strongFont : m_cellFont; }
@@ -108,6 +112,9 @@ class GridView : public QTableView {
   void layoutColumns();
   void layoutRows();
   int naturalWidth(int column) const;
+  int padding() const;
+  int fittedWidth(int column, const std::vector<int>& rows) const;
+  void fitAsAsked();
   bool isAlike(int column) const;
   std::vector<int> ownWidths(const std::vector<int>& columns, int room) const;
   void noteUserWidth(int column, int width);
@@ -133,9 +140,10 @@ class GridView : public QTableView {
   mutable QHash<QString, int> m_cellAdvances, m_headingAdvances;  // widths of texts already met in these fonts
   std::set<int> m_hiddenRows;                                     // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;                                // of columns that the user or "Adatta colonne" set
-  int m_lastRows = 0;                                             // of the model when the view last followed it
-  int m_fitsAsked = 0, m_showsAsked = 0;                          // by the grid, as far as the view has followed
-  bool m_keepEnd = false;                                         // the theme changes while the last row is in sight
+  std::map<int, int> m_gridWidths;        // of columns that the grid asked to be fitted, where these share the room
+  int m_lastRows = 0;                     // of the model when the view last followed it
+  int m_fitsAsked = 0, m_showsAsked = 0;  // by the grid, as far as the view has followed
+  bool m_keepEnd = false;                 // the theme changes while the last row is in sight
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click
   std::pair<int, int> m_pressed{-1, -1};    // cell under the press, grid's counting
