@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <string>
+#include <utility>
 
 #include "core/draw_panel.h"
 #include "tools/draw_pairs.h"
@@ -38,6 +39,11 @@ void addPair(Grid& Fg1, std::string_view label, Family family, const NumberPair&
   Fg1.setText(row, 6, CodiciRuote[pair.wheel2]);
   Fg1.setNumber(row, 7, pair.position2);
   Fg1.setNumber(row, 8, value);
+}
+
+// What the columns 1..9 of `Fg5` count.
+std::pair<Measure, Family> blockOfColumn(int column) {
+  return {static_cast<Measure>((column - 1) / kFamilies), static_cast<Family>((column - 1) % kFamilies)};
 }
 
 // Twelve empty rows.
@@ -224,15 +230,20 @@ void SegnaValore(DiDiSO& form, int row, int column) {
   form.Fg1.cutToHeading();
   paintCross(form.Fg5, row, column);
   const int value = form.Fg5.number(row, 0);
-  const auto measure = static_cast<Measure>((column - 1) / kFamilies);
-  const auto family = static_cast<Family>((column - 1) % kFamilies);
+  const auto [measure, family] = blockOfColumn(column);
   for (const NumberPair& pair : pairsWith(numbersOf(form), measure, family, value)) {
     mark(form.fG2, pair);
     addPair(form.Fg1, traitsOf(measure).label, family, pair, value);
   }
   form.Fg1.fitColumns();
-  form.shell().status(
-      fmt::format("{} {}, coppie {}: {}", traitsOf(measure).label, value, traitsOf(family).pairs, form.Fg1.dataRows()));
+  form.shell().status(frequencyText(form.Fg5, row, column));
+}
+
+std::string frequencyText(const Grid& Fg5, int row, int column) {
+  if (row < 1 || row >= Fg5.rows() || column < 1 || column >= Fg5.columns()) return "";
+  const auto [measure, family] = blockOfColumn(column);
+  return fmt::format("{} {}, coppie {}: {}", traitsOf(measure).label, Fg5.text(row, 0), traitsOf(family).pairs,
+                     Fg5.number(row, column));
 }
 
 }  // namespace trv5

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <optional>
-#include <string_view>
+#include <string>
 
 #include "core/archive.h"
 #include "core/controls.h"
@@ -73,5 +73,8 @@ void SegnaCoppia(DiDiSO& form, int row);
 
 /// Click on `Fg5`, columns 1..9: lists and marks the pairs that make the value, and paints a cross that leads to it.
 void SegnaValore(DiDiSO& form, int row, int column);
+
+/// What a cell of `Fg5` says: "Somma 40, coppie verticali: 5"; "" for one that is no frequency.
+std::string frequencyText(const Grid& Fg5, int row, int column);
 
 }  // namespace trv5

@@ -184,7 +184,7 @@ void SostituisciNumeri(SistemiOrtogonali& form) {
 
 void StampaFormazioni(SistemiOrtogonali& form) {
   std::vector<std::string> header;
-  if (!form.LblSistema.text().empty()) header.push_back(form.LblSistema.text());
+  if (form.FgSy.hasData()) header.push_back(form.LblSistema.text());
   std::string chosen;
   for (int row = 1; row < form.Fg99.rows(); ++row)
     if (const std::string& number = form.Fg99.text(row, 1); !number.empty())

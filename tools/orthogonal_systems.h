@@ -17,9 +17,9 @@ class SistemiOrtogonali : public Form {
   Button Command12{*this, "Command12", "RICARICA"};
   /// The systems: key and width of the rows are hidden.
   GridControl FgSistemi{*this, "FgSistemi", "|Cod|Denominazione|sviluppo"};
-  Label LblPromessa{*this, "LblPromessa"};              ///< what the system under the cursor promises
-  Label LblSistema{*this, "LblSistema"};                ///< the name of the system whose rows are shown
-  GridControl FGSv1{*this, "FGSv1", "|NuRiga|Qn|Num"};  ///< the rows as they are stored; not on the screen
+  Label LblPromessa{*this, "LblPromessa"};                         ///< what the system under the cursor promises
+  Label LblSistema{*this, "LblSistema", "Nessun sistema scelto"};  ///< the name of the system whose rows are shown
+  GridControl FGSv1{*this, "FGSv1", "|NuRiga|Qn|Num"};             ///< the rows as they are stored; not on the screen
   /// The rows of the system: its number in column 0, the numbers of the row from column 1 on.
   GridControl FgSy;
   GridControl Fg99{*this, "Fg99", "|"};      ///< the numbers that the system uses, and what replaces each

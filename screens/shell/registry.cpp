@@ -9,12 +9,14 @@
 #include "core/inizio.h"
 #include "core/verifica_archivio.h"
 #include "desk/equip_workbench.h"
+#include "screens/DiDiSO.h"
 #include "screens/ElencoRiscontri.h"
 #include "screens/Estrazioni_minielenco.h"
 #include "screens/EvoluzioneGrafica.h"
 #include "screens/FunzioniAggiuntive.h"
 #include "screens/INIZIO.h"
 #include "screens/ImportExport.h"
+#include "screens/SistemiOrtogonali.h"
 #include "screens/Speciale.h"
 #include "screens/VerificaArchivio.h"
 #include "screens/shell/Container.h"
@@ -69,6 +71,8 @@ std::vector<ScreenEntry> allScreens() {
       workbench(),
       atRight(loaded<MiniList>(
           entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {660, 490}))),
+      loaded<DiDiSO>(entry<DiDiSO, DiDiSOScreen>("DiDiSO", Place::Fills)),
+      loaded<SistemiOrtogonali>(entry<SistemiOrtogonali, SistemiOrtogonaliScreen>("SistemiOrtogonali", Place::Fills)),
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),

@@ -1,60 +1,7 @@
-#include "tools/draw_characteristics.h"
-
-#include <gtest/gtest.h>
-
-#include "support/archive_builder.h"
-#include "support/fake_shell.h"
+#include "characteristics_world.h"
 
 namespace trv5 {
 namespace {
-
-std::vector<DrawRow> threeDraws() {
-  return {
-      drawOf("07/01/1939", {{"BA", {58, 22, 47, 49, 69}}}),
-      drawOf("14/01/1939", {{"BA", {45, 19, 30, 90, 1}}, {"CA", {45, 2, 30, 11, 89}}}),
-      drawOf("04/02/1939", {{"BA", {7, 80, 9, 10, 11}}, {"NZ", {90, 89, 88, 87, 86}}}),
-  };
-}
-
-struct CharacteristicsWorld {
-  explicit CharacteristicsWorld(const std::vector<DrawRow>& rows = threeDraws()) : archive(archiveOfRows(rows)) {
-    form.load();
-  }
-
-  static std::string row(const Grid& grid, int row) {
-    std::string text;
-    for (int column = 0; column < grid.columns(); ++column) text += (column > 0 ? " " : "") + grid.text(row, column);
-    return text;
-  }
-  static std::vector<std::pair<int, int>> painted(const Grid& grid, Rgb colour) {
-    std::vector<std::pair<int, int>> cells;
-    for (int r = 0; r < grid.rows(); ++r)
-      for (int c = 0; c < grid.columns(); ++c)
-        if (grid.back(r, c) == colour) cells.emplace_back(r, c);
-    return cells;
-  }
-  static bool blank(const Grid& grid) {
-    for (int r = grid.headingRows(); r < grid.rows(); ++r)
-      for (int c = 0; c < grid.columns(); ++c)
-        if (grid.at(r, c) != Cell{}) return false;
-    return true;
-  }
-  std::vector<std::optional<Rgb>> buttons() const {
-    return {form.Command3.back(), form.Command4.back(), form.Command5.back(), form.Command6.back(),
-            form.Command7.back()};
-  }
-  int count(int row, const char* heading) const {
-    for (int column = 0; column < form.Fg5.columns(); ++column)
-      if (form.Fg5.text(0, column) == heading) return form.Fg5.number(row, column);
-    return -1;
-  }
-
-  Archive archive;
-  FakeShell shell;
-  DiDiSO form{archive, shell};
-};
-
-using Cells = std::vector<std::pair<int, int>>;
 
 TEST(DrawCharacteristics, OpenOnTheLastDrawWithoutClasses) {
   const CharacteristicsWorld world;
@@ -297,6 +244,15 @@ TEST(DrawCharacteristics, AClickOnAFrequencyListsItsPairsAndMarksTheirNumbers) {
             "Distanza 45, coppie verticali: " + std::to_string(world.form.Fg1.dataRows()));
 }
 
+TEST(DrawCharacteristics, AFrequencyTellsWhatItCounts) {
+  const CharacteristicsWorld world;
+  EXPECT_EQ(frequencyText(world.form.Fg5, 87, 1), "Somma 87, coppie orizzontali: 3") << "7 + 80, 88 + 89, 90 + 87";
+  EXPECT_EQ(frequencyText(world.form.Fg5, 46, 6), "Distanza 46, coppie diagonali: 0");
+  EXPECT_EQ(frequencyText(world.form.Fg5, 90, 8), "Differenza 90, coppie verticali: 9");
+  for (const auto& [row, column] : Cells{{0, 1}, {1, 0}, {91, 1}, {1, 10}, {-1, -1}})
+    EXPECT_EQ(frequencyText(world.form.Fg5, row, column), "");
+}
+
 TEST(DrawCharacteristics, ACrossLeadsToTheClickedFrequency) {
   CharacteristicsWorld world;
   world.form.Fg5.clickCell(70, 8);
@@ -353,58 +309,6 @@ TEST(DrawCharacteristics, FollowAnArchiveThatHasGrown) {
   world.form.Command56.press();
   EXPECT_EQ(world.form.hs1.maximum(), 4);
   EXPECT_EQ(world.row(world.form.fG2, 1), "BA 1 2 3 4 5");
-}
-
-TEST(DrawCharacteristicsSearch, ByIndexTakesDrawsOfTheArchiveOnly) {
-  CharacteristicsWorld world;
-  world.form.hs1.set(2);
-  for (const char* const answer : {"0", "4", "", "-1", "abc", "99999999999"}) {
-    world.shell.answerText(answer);
-    world.form.Command42[0].press();
-    EXPECT_EQ(world.form.hs1.value(), 2) << answer;
-  }
-  world.shell.answerText("1");
-  world.form.Command42[0].press();
-  EXPECT_EQ(world.form.hs1.value(), 1);
-  world.shell.answerText("3");
-  world.form.Command42[0].press();
-  EXPECT_EQ(world.form.hs1.value(), 3);
-  EXPECT_EQ(world.shell.lastBox().title, "Scelta estrazione");
-  EXPECT_EQ(world.shell.lastBox().text, "Inserire il n° indice dell'archivio modello.");
-  EXPECT_EQ(world.form.Command42[0].caption(), "Ricerca per numero indice");
-}
-
-TEST(DrawCharacteristicsSearch, ByDateComparesTheText) {
-  CharacteristicsWorld world;
-  world.shell.answerText("14/01/1939");
-  world.form.Command42[1].press();
-  EXPECT_EQ(world.form.hs1.value(), 2);
-  EXPECT_EQ(world.shell.lastBox().title, "Ricerca per data GG/MM/AAAA");
-  EXPECT_EQ(world.shell.lastBox().text, "Data ?");
-  world.shell.answerText("14/1/1939");
-  world.form.Command42[1].press();
-  EXPECT_EQ(world.form.hs1.value(), 2);
-  EXPECT_EQ(world.shell.lastBox().text, "Data non trovata");
-  EXPECT_EQ(world.shell.lastBox().title, "Cerca data");
-  EXPECT_EQ(world.form.Command42[1].caption(), "Cerca estrazione per data");
-}
-
-TEST(DrawCharacteristicsSearch, ByDateIsSilentOnACancelledOrEmptyAnswer) {
-  CharacteristicsWorld world;
-  world.shell.answerCancel();
-  world.form.Command42[1].press();
-  world.shell.answerText("");
-  world.form.Command42[1].press();
-  EXPECT_EQ(world.shell.shown.size(), 2U);
-}
-
-TEST(DrawCharacteristicsSearch, ByDateEndsWithAShorterModelArchive) {
-  CharacteristicsWorld world;
-  world.archive.setModelFrom(3);
-  world.shell.answerText("07/01/1939");
-  world.form.Command42[1].press();
-  EXPECT_EQ(world.shell.lastBox().text, "Data non trovata");
-  EXPECT_EQ(world.form.hs1.value(), 3);
 }
 
 }  // namespace
