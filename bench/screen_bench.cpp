@@ -1,5 +1,6 @@
-// From the click on a search to its painted candidates, and the scrolling of a long table of hits: what the user waits
-// for, without a display. Processor times, so that other programs of the machine don't count.
+// From the click on a search to its painted candidates, the scrolling of a long table of hits, the walk through the
+// draws of the look at one: what the user waits for, without a display. Processor times, so that other programs of the
+// machine don't count.
 //
 //   screen_bench [HISTORY]    HISTORY: as for the other benches
 #include <fmt/format.h>
@@ -11,6 +12,7 @@
 #include <stdexcept>
 
 #include "bench_tools.h"
+#include "screens/DiDiSO.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/qt_shell.h"
@@ -25,6 +27,7 @@ constexpr double kSeconds = 1.0;        // spent on each measurement
 constexpr double kMostOfSearch = 30;    // ms from the click to the picture
 constexpr double kMostOfOpening = 100;  // ms from the click on TRV5 to the picture
 constexpr double kMostOfStep = 16;      // ms of a step of scrolling: sixty pictures a second
+constexpr double kMostOfPairs = 15;     // ms from the click on DS to the picture
 
 // A box would wait for a user who isn't there.
 class BenchShell : public QtShell {
@@ -136,6 +139,42 @@ void benchHits(WorkbenchWorld& world, Sommativi1Screen& screen) {
   }
 }
 
+// A held-down arrow shows every draw; all pairs of one are 2970 rows.
+void benchDraw(const Archive& archive) {
+  FakeShell shell;
+  DiDiSO form(archive, shell);
+  DiDiSOScreen screen(form);
+  form.load();
+  form.Command5.press();
+  screen.resize(1868, 1028);
+  screen.show();
+  showAll();
+  Paintings numbers(*screen.findChild<GridView*>(QStringLiteral("fG2"))->viewport());
+  const int last = archive.UltimaEstrazione();
+  const double change = secondsOf(
+      [&] {
+        form.hs1.set(form.hs1.value() % last + 1);
+        showAll();
+      },
+      kSeconds);
+  requirePicture(numbers, 0, "change of draw");
+  tell("change of draw to the painted screen", change * 1e3, kMostOfStep);
+
+  Paintings pairs(*screen.findChild<GridView*>(QStringLiteral("Fg1"))->viewport());
+  const auto empty = [&] {
+    form.hs1.set(form.hs1.value() % last + 1);
+    showAll();
+  };
+  const double list = secondsOf(
+      [&] {
+        form.Command1.press();
+        showAll();
+      },
+      kSeconds, empty);
+  requirePicture(pairs, 0, "DS");
+  tell("click on DS to the painted pairs", list * 1e3, kMostOfPairs);
+}
+
 void benchScreen(WorkbenchWorld& world) {
   const double seconds = secondsOf([&] { Sommativi1Screen(world.w).resize(1314, 740); }, kSeconds);
   fmt::print("{:<56} {:>8.2f} ms\n", "the workbench's widgets made", seconds * 1e3);
@@ -193,6 +232,7 @@ int run(int argc, char** argv) {
   fmt::print("{} cases\n", world.w.FgEv.dataRows());
   benchSearches(world, screen);
   benchHits(world, screen);
+  benchDraw(world.w.archive);
   return g_good ? 0 : 1;
 }
 
