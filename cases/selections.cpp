@@ -119,8 +119,6 @@ void captionArrays(Workbench& w) {
 
 // What to press where there is nothing to see yet.
 void tellEmptyGrids(Workbench& w) {
-  w.FgEv.setEmptyText("Nessun caso: scegli una situazione e premi RICAVA ELENCO ESTRAZIONI");
-  w.FgF.setEmptyText("Nessuna ricerca: prima ricava l'elenco delle estrazioni");
   w.Fg11.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 1");
   w.Fg22.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 2");
   w.Fg33.setEmptyText("Nessuna formula: scegli una riga della ricerca e premi 3");
@@ -142,6 +140,8 @@ void emptyResults(Workbench& w) {
                      &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
                      &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})
     grid->cutToHeading();
+  w.FgEv.setEmptyText("Nessun caso: scegli una situazione e premi RICAVA ELENCO ESTRAZIONI");
+  w.FgF.setEmptyText("Nessuna ricerca: prima ricava l'elenco delle estrazioni");
   w.origins.marks = {};
   w.ComboFix.select(0);
   w.Ch_analisi2ruote.set(false);

@@ -59,7 +59,6 @@ void ElencaConfigurazioni(Workbench& w) {
     return;
   }
   for (int column = kFirstHiddenColumn; column < w.FgPir1.columns(); ++column) w.FgPir1.setColumnHidden(column);
-  w.FgPir1.setEmptyText("Nessuna configurazione salvata");
   FiltraConfigurazioni(w);
   // The one saved or reloaded last is easy to find, though no row is current.
   if (const int row = rowNamed(w, w.Txt_Denominazione.text())) w.FgPir1.showRow(row);
@@ -122,6 +121,8 @@ void FiltraConfigurazioni(Workbench& w) {
   const Grid::Batch batch(w.FgPir1);
   for (int row = 1; row < w.FgPir1.rows(); ++row)
     w.FgPir1.setRowHidden(row, foldedCase(w.FgPir1.text(row, kNameColumn)).find(wanted) == std::string::npos);
+  w.FgPir1.setEmptyText(w.FgPir1.hasData() ? "Nessuna denominazione con questo testo"
+                                           : "Nessuna configurazione salvata");
 }
 
 }  // namespace trv5

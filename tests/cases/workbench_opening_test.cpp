@@ -209,5 +209,14 @@ TEST(WorkbenchOpeningOnOneDraw, RunsTheChangeOfTheReferenceThoughTheScrollBarCan
   EXPECT_EQ(world.w.ComboPar.index(), 1);
 }
 
+TEST(ResetOfTheWorkbench, AsksForASituationAgain) {
+  WorkbenchWorld world(archiveOf({{{"BA", {1, 2, 3, 4, 5}}}}));
+  world.w.ComboPar.pick(31);
+  world.press("Command44");
+  EXPECT_EQ(world.w.FgEv.emptyText(), "Nessun caso per questa situazione: cambia il valore o le posizioni");
+  world.press("Command41");
+  EXPECT_EQ(world.w.FgEv.emptyText(), "Nessun caso: scegli una situazione e premi RICAVA ELENCO ESTRAZIONI");
+}
+
 }  // namespace
 }  // namespace trv5

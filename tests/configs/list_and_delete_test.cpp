@@ -69,6 +69,9 @@ TEST_F(SavedList, IsFilteredByATextInWhateverLettersCase) {
   EXPECT_THAT(w.FgPir1.hiddenRows(), ElementsAre(world.rowOf("barile"), world.rowOf("Roma")));
   world.press("Cmd_Elenco");
   EXPECT_THAT(w.FgPir1.hiddenRows(), ElementsAre(world.rowOf("barile"), world.rowOf("Roma")));
+  w.Txt_FiltroConfig.set("Zara");
+  EXPECT_EQ(w.FgPir1.hiddenRows().size(), 3U);
+  EXPECT_EQ(w.FgPir1.emptyText(), "Nessuna denominazione con questo testo");
   w.Txt_FiltroConfig.set("");
   EXPECT_TRUE(w.FgPir1.hiddenRows().empty());
 }
