@@ -20,6 +20,8 @@ constexpr int kControlTable = 0;  // no table of formulas: a reload passes its r
 // Lists of the searches, and those in which a text can be typed.
 constexpr auto kLists = {&Workbench::ComboNC,    &Workbench::ComboColpi, &Workbench::ComboEle,
                          &Workbench::Combo1R_1N, &Workbench::Combo1R_2N, &Workbench::ComboFix};
+constexpr auto kBoxes = {&Workbench::ChFix1R, &Workbench::Ch_Scoperti, &Workbench::ChVerifica, &Workbench::Ch_ultima,
+                         &Workbench::ChA,     &Workbench::ChB,         &Workbench::ChC,        &Workbench::Ch1esito};
 
 bool isEmpty(const Workbench& w) {
   return !w.FgEv.hasData() &&
@@ -31,21 +33,25 @@ Configuration draftOf(const Workbench& w) {
   for (Field& field : draft.head)
     if (field.name == "Denominazione" && w.Txt_Denominazione.text().empty()) field.value = std::string(kUnnamed);
   int place = 0;
-  for (const auto list : kLists) {
+  const auto keep = [&](const Control& control, const std::string& value) {
     ConfigurationRow& row = draft.rows.emplace_back();
     row.grid = kControlTable;
     row.row = ++place;
-    row.cells[0] = (w.*list).name();
-    row.cells[1] = (w.*list).text();
-  }
+    row.cells[0] = control.name();
+    row.cells[1] = value;
+  };
+  for (const auto list : kLists) keep(w.*list, (w.*list).text());
+  for (const auto box : kBoxes) keep(w.*box, (w.*box).checked() ? "1" : "0");
   return draft;
 }
 
-void layLists(Workbench& w, const std::vector<ConfigurationRow>& rows) {
+void layControls(Workbench& w, const std::vector<ConfigurationRow>& rows) {
   for (const ConfigurationRow& row : rows) {
     if (row.grid != kControlTable) continue;
     for (const auto list : kLists)
       if (Combo& combo = w.*list; combo.name() == row.cells[0]) combo.type(row.cells[1]);
+    for (const auto box : kBoxes)
+      if (Check& check = w.*box; check.name() == row.cells[0]) check.set(row.cells[1] == "1");
   }
 }
 
@@ -91,7 +97,7 @@ void RiprendiLavoro(Workbench& w) {
       texts, texts.head.rows.empty() ? "" : texts.head.rows.front()[texts.head.column("Denominazione")]);
   w.button("Command41").press();
   disponeConfigurazione(w, draft.head, [&] {
-    layLists(w, draft.rows);
+    layControls(w, draft.rows);
     return texts.rows;
   });
   if (w.Txt_Denominazione.text() == kUnnamed) w.Txt_Denominazione.set("");

@@ -8,7 +8,7 @@
 namespace trv5 {
 
 /// The work that stood on the workbench when the program ended, kept beside the main database as an export file of one
-/// configuration. What a configuration doesn't keep stands in rows of table 0: the name of a control and its text.
+/// configuration. What a configuration doesn't keep stands in rows of table 0: the name of a control and its value.
 std::filesystem::path draftFile(const Workbench& w);
 
 /// Writes the draft, in place of the one before; an empty workbench (no case, no formula) leaves that. Throws

@@ -19,6 +19,7 @@ class Draft : public testing::Test {
     WorkbenchWorld::choose(w.ComboColpi, "60");
     WorkbenchWorld::choose(w.Combo1R_1N, "C91");
     w.ComboFix.pick(12);
+    w.ChFix1R.set(true);
     w.FgRG.clickCell(0, 4);
     WorkbenchWorld::addFormula(w.Fg11, {.elements = {{0, 1}}, .fix = 7});
     w.button("Command44").press();
@@ -54,6 +55,8 @@ TEST_F(Draft, IsOfferedWithItsTimeAndTakenUpWithTypedTexts) {
   EXPECT_EQ(w.ComboColpi.text(), "60");
   EXPECT_EQ(w.Combo1R_1N.text(), "C91");
   EXPECT_EQ(w.ComboFix.text(), "12");
+  EXPECT_TRUE(w.ChFix1R.checked());
+  EXPECT_FALSE(w.Ch_Scoperti.checked());
   EXPECT_EQ(w.Txt_Denominazione.text(), "");
 }
 
