@@ -1,7 +1,5 @@
 #include "screens/DiDiSO.h"
 
-#include <QVBoxLayout>
-
 #include "screens/kit/side_splitter.h"
 #include "screens/kit/theme.h"
 
@@ -11,12 +9,7 @@ DiDiSOScreen::DiDiSOScreen(DiDiSO& form) : Screen(form), m_form(form) {
   QWidget* const draw = drawPanel();
   QWidget* const pairs = pairsPanel();
   m_parts = new SideSplitter(QStringLiteral("DiDiSO"), draw, pairs, frequenciesPanel(), 480, 410);
-  auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(m_parts);
-  withTheme(*this, [layout] {
-    const int unit = Theme::current().unit();
-    layout->setContentsMargins(unit, unit, unit, unit);
-  });
+  m_parts->fill(*this);
   setFocusPolicy(Qt::ClickFocus);
   setFocusProxy(findChild<QScrollBar*>(QStringLiteral("hs1")));
 }

@@ -1,7 +1,5 @@
 #include "screens/SistemiOrtogonali.h"
 
-#include <QVBoxLayout>
-
 #include "screens/kit/side_splitter.h"
 #include "screens/kit/theme.h"
 
@@ -29,12 +27,7 @@ SistemiOrtogonaliScreen::SistemiOrtogonaliScreen(SistemiOrtogonali& form) : Scre
   QWidget* const list = listPanel();
   QWidget* const system = systemPanel();
   m_parts = new SideSplitter(QStringLiteral("SistemiOrtogonali"), list, system, resultPanel(), 292, 340);
-  auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(m_parts);
-  withTheme(*this, [layout] {
-    const int unit = Theme::current().unit();
-    layout->setContentsMargins(unit, unit, unit, unit);
-  });
+  m_parts->fill(*this);
   setFocusPolicy(Qt::ClickFocus);
   setFocusProxy(findChild<GridView*>(QStringLiteral("FgSistemi")));
 }

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QSettings>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
@@ -48,6 +49,15 @@ void SideSplitter::layOut() {
 void SideSplitter::resizeEvent(QResizeEvent* event) {
   QSplitter::resizeEvent(event);
   layOut();
+}
+
+void SideSplitter::fill(QWidget& screen) {
+  auto* const layout = new QVBoxLayout(&screen);
+  layout->addWidget(this);
+  withTheme(screen, [layout] {
+    const int unit = Theme::current().unit();
+    layout->setContentsMargins(unit, unit, unit, unit);
+  });
 }
 
 void SideSplitter::restore(const QSettings& settings) {

@@ -16,6 +16,9 @@ class SideSplitter : public QSplitter {
   /// the font.
   SideSplitter(QString name, QWidget* left, QWidget* middle, QWidget* right, int leftWidth, int rightWidth);
 
+  /// Lays itself out as the whole of a screen, with the theme's unit around it.
+  void fill(QWidget& screen);
+
   void restore(const QSettings& settings);
   void store(QSettings& settings) const;
 
