@@ -214,11 +214,19 @@ void Progress::set(int value, int maximum) {
 }
 
 void Calendar::set(std::string date) {
-  if (m_date == date) return;
+  if (m_date != date) pick(std::move(date));
+}
+
+void Calendar::pick(std::string date) {
   const UserAct act(form(), this, true);
+  show(std::move(date));
+  fire();
+}
+
+void Calendar::show(std::string date) {
+  if (m_date == date) return;
   m_date = std::move(date);
   changed();
-  fire();
 }
 
 void Button::setHeld(const ControlValue& value) {

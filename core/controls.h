@@ -216,8 +216,12 @@ class Calendar : public Control {
   using Control::Control;
   /// "GG/MM/AAAA", empty before the first choice.
   const std::string& date() const { return m_date; }
-  /// Fires only when the date changes.
+  /// The user's change; fires only when the date changes.
   void set(std::string date);
+  /// The user's click on a day: fires also on the one that stands there already.
+  void pick(std::string date);
+  /// Set by an operation: fires nothing.
+  void show(std::string date);
 
  protected:
   ControlValue held() const override { return m_date; }

@@ -303,6 +303,8 @@ void bind(QCalendarWidget& widget, Calendar& control) {
   });
   QObject::connect(&widget, &QCalendarWidget::selectionChanged, &widget,
                    [&widget, &control, form] { control.set(widget.selectedDate().toString(form).toStdString()); });
+  QObject::connect(&widget, &QCalendarWidget::clicked, &widget,
+                   [&control, form](QDate date) { control.pick(date.toString(form).toStdString()); });
 }
 
 }  // namespace trv5

@@ -288,6 +288,18 @@ TEST_F(Controls, ACalendarFiresOnlyWhenItsDateChanges) {
   EXPECT_EQ(events, 1);
 }
 
+TEST_F(Controls, ACalendarTellsOfAnyClickAndOfNothingThatAnOperationSets) {
+  Calendar calendar(form, "MonthView1");
+  calendar.onEvent(count(events));
+  calendar.setListener(count(notices));
+  calendar.show("22/08/2026");
+  EXPECT_EQ(calendar.date(), "22/08/2026");
+  EXPECT_EQ(notices, 1);
+  EXPECT_EQ(events, 0);
+  calendar.pick("22/08/2026");
+  EXPECT_EQ(events, 1);
+}
+
 TEST_F(Controls, ListsAndBarsTellTheirChanges) {
   LineList list(form, "List1");
   list.setListener(count(notices));

@@ -275,6 +275,19 @@ TEST_F(Bindings, ACalendarSpeaksItalianDates) {
   EXPECT_EQ(control.date(), "01/02/2026");
 }
 
+TEST_F(Bindings, AClickOnTheDayThatACalendarShowsIsOne) {
+  Calendar control(world.form, "MonthView1");
+  int picks = 0;
+  control.onEvent([&] { ++picks; });
+  QCalendarWidget widget;
+  bind(widget, control);
+  control.show("22/08/2026");
+  EXPECT_EQ(widget.selectedDate(), QDate(2026, 8, 22));
+  EXPECT_EQ(picks, 0);
+  Q_EMIT widget.clicked(QDate(2026, 8, 22));
+  EXPECT_EQ(picks, 1);
+}
+
 TEST_F(Bindings, AWidgetThatIsGoneIsForgotten) {
   Button control(world.form, "Command1", "Uno");
   {
