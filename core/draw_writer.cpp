@@ -32,24 +32,48 @@ DrawWriter::DrawWriter(Database& archive) : m_archive(archive), m_transaction(ar
   writeAllSums();
 }
 
+int DrawWriter::writeRow(const char* sql, const DrawRow& row, const Registration& registered) {
+  Statement statement = m_archive.prepare(sql);
+  statement.bind(1, isoOf(row.date));
+  for (int wheel = 0; wheel < kWheels; ++wheel)
+    statement.bindOrNull(wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
+  statement.bindOrNull(kWheels + 2, registered.datareg.empty() ? "" : isoOf(registered.datareg));
+  return statement.bindOrNull(kWheels + 3, registered.orareg).run();
+}
+
+void DrawWriter::writeSum(const DrawRow& row) {
+  m_archive.prepare(kPutSum).bind(1, isoOf(row.date)).bind(2, sumOfDraw(row)).run();
+}
+
 void DrawWriter::put(const DrawRow& row, const Registration& registered) {
-  const std::string date = isoOf(row.date);
-  const auto write = [&](const char* sql) {
-    Statement statement = m_archive.prepare(sql);
-    statement.bind(1, date);
-    for (int wheel = 0; wheel < kWheels; ++wheel)
-      statement.bindOrNull(wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
-    statement.bindOrNull(kWheels + 2, registered.datareg.empty() ? "" : isoOf(registered.datareg));
-    return statement.bindOrNull(kWheels + 3, registered.orareg).run();
-  };
-  if (write(kUpdate) == 0) write(kInsert);
-  m_archive.prepare(kPutSum).bind(1, date).bind(2, sumOfDraw(row)).run();
+  if (!correct(row, registered)) add(row, registered);
+}
+
+void DrawWriter::add(const DrawRow& row, const Registration& registered) {
+  if (!m_draws) {
+    Statement count = m_archive.prepare("SELECT count(*) FROM EstrazioniLotto");
+    count.step();
+    m_draws = static_cast<int>(count.number(0));
+  }
+  // One more and the archive couldn't be loaded again.
+  if (*m_draws >= Archive::kMaxDraws) throw UserError("L'archivio ha già 9999 estrazioni e non può averne altre.");
+  writeRow(kInsert, row, registered);
+  writeSum(row);
+  ++*m_draws;
+}
+
+bool DrawWriter::correct(const DrawRow& row, const Registration& registered) {
+  if (writeRow(kUpdate, row, registered) == 0) return false;
+  writeSum(row);
+  return true;
 }
 
 bool DrawWriter::remove(std::string_view date) {
   const std::string iso = isoOf(date);
   m_archive.prepare("DELETE FROM VerificaEstrazioni WHERE DataEstrazione = ?").bind(1, iso).run();
-  return m_archive.prepare("DELETE FROM EstrazioniLotto WHERE DataEstrazione = ?").bind(1, iso).run() > 0;
+  const bool there = m_archive.prepare("DELETE FROM EstrazioniLotto WHERE DataEstrazione = ?").bind(1, iso).run() > 0;
+  if (there && m_draws) --*m_draws;
+  return there;
 }
 
 void DrawWriter::writeAllSums() {

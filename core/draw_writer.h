@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,10 @@ class DrawWriter {
 
   /// Adds the draw, or takes the place of the one of that date.
   void put(const DrawRow& row, const Registration& registered = {});
+  /// Adds a draw; throws DatabaseError (Constraint) when there is one of that date, UserError when the archive is full.
+  void add(const DrawRow& row, const Registration& registered);
+  /// Overwrites the wheels of the draw of that date; false, and nothing is written, when there is none.
+  [[nodiscard]] bool correct(const DrawRow& row, const Registration& registered);
   /// Takes the draw of that date, "GG/MM/AAAA", out of the archive; false when there is none.
   bool remove(std::string_view date);
   /// Takes all draws as they stand: their sums are written anew.
@@ -30,8 +35,12 @@ class DrawWriter {
   void commit() { m_transaction.commit(); }
 
  private:
+  int writeRow(const char* sql, const DrawRow& row, const Registration& registered);
+  void writeSum(const DrawRow& row);
+
   Database& m_archive;
   Database::Transaction m_transaction;
+  std::optional<int> m_draws;  // in the archive, once counted
 };
 
 /// One draw in a transaction of its own.
