@@ -98,6 +98,7 @@ std::vector<DrawRow> CaricaArchivioExNovo(Program& program) {
   program.archive.setWholeModel();
   if (program.container != nullptr) program.container->CaricaFG5();
   takeDifferences(program, std::move(differences));
+  program.archiveReloaded.send();
   return std::move(rows);
 }
 

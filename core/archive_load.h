@@ -27,7 +27,8 @@ void fillFgDB(const std::vector<DrawRow>& rows, Grid& FgDB);
 std::vector<DrawRow> loadArchive(Program& program, const std::function<void(int row, int rows)>& onRow = {});
 
 /// The full reload after a change of the archive: all arrays, the status block and the list of the shell. Its model
-/// archive covers the whole archive, whatever `EstrazioneIniziale` says. Returns the rows for a grid `FgDB`.
+/// archive covers the whole archive, whatever `EstrazioneIniziale` says. At its end `archiveReloaded` is sent. Returns
+/// the rows for a grid `FgDB`.
 std::vector<DrawRow> CaricaArchivioExNovo(Program& program);
 
 /// "7370 estrazioni", and what the user has to know of them: draws that aren't as they were written, wheels that aren't

@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/control_state.h"
@@ -40,6 +42,9 @@ class Form {
   /// The control that has the focus among those of this form; null for none.
   Control* focused() const { return m_focused; }
 
+  /// Holds something for as long as the form lives, such as a subscription to a notice.
+  void keep(std::shared_ptr<void> held) { m_held.push_back(std::move(held)); }
+
   /// Runs an operation under the one error handler: what escapes from the outermost call is shown in a box. Operations
   /// that run others call them directly or press their buttons; errors then pass through to the outermost. `source`:
   /// the control that the user acted at. `operation` is empty for a change that no operation follows.
@@ -73,6 +78,7 @@ class Form {
   ActListener* m_acts = nullptr;
   bool m_acting = false;     // an act is under way
   bool m_restoring = false;  // no operation runs
+  std::vector<std::shared_ptr<void>> m_held;
 };
 
 template <class Kind>

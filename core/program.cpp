@@ -73,6 +73,14 @@ Database& Program::mainDatabase() const {
   return *DbParametri;
 }
 
+bool Program::otherArchiveChosen() const {
+  if (DbArchivio == nullptr || loadedArchive.empty()) return false;
+  std::error_code error;
+  const bool same = fs::equivalent(DbArchivio->path(), loadedArchive, error);
+  // One that has gone meanwhile is told by its name.
+  return error ? DbArchivio->path() != fs::absolute(loadedArchive) : !same;
+}
+
 Database& Program::archiveToWrite() const {
   std::error_code error;
   if (DbArchivio == nullptr || !DbArchivio->stillInPlace() ||

@@ -9,6 +9,7 @@
 #include "core/archive.h"
 #include "core/database.h"
 #include "core/draw_sums.h"
+#include "core/notice.h"
 #include "core/parameters.h"
 #include "core/shell.h"
 
@@ -48,6 +49,8 @@ struct Program {
   Archive archive;
   /// Where the draws in memory come from; empty before the first load.
   std::filesystem::path loadedArchive;
+  /// Sent at the end of each reload: draws have come, gone or changed.
+  Notice archiveReloaded;
   /// Draws of the archive in memory that aren't as they were written, and whether the user has looked at them.
   std::vector<DrawDifference> drawDifferences;
   bool differencesSeen = false;
@@ -63,6 +66,8 @@ struct Program {
   Database& mainDatabase() const;
   Parameters parameters() const { return Parameters(mainDatabase()); }
 
+  /// True when another archive has been chosen since the start: the draws in memory aren't those of `DbArchivio`.
+  bool otherArchiveChosen() const;
   /// The archive to write to. Throws UserError when that isn't the one whose draws are in memory: another archive has
   /// been chosen since the start.
   Database& archiveToWrite() const;
