@@ -1,9 +1,15 @@
 #include "maintenance/archivio.h"
 
+#include "maintenance/entry_tab.h"
+
 namespace trv5 {
 
-Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivio", kHelpContext), program(run) {}
+Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivio", kHelpContext), program(run) {
+  connectEntry(*this);
+}
 
-void Archivio::load() {}
+void Archivio::load() {
+  ApreArchivio(*this);
+}
 
 }  // namespace trv5
