@@ -268,6 +268,12 @@ void Grid::showRow(int row) {
   notify({});
 }
 
+void Grid::scrollTo(int row) {
+  m_topRow = row;
+  ++m_scrollsAsked;
+  notify({});
+}
+
 void Grid::setCellSize(int size) {
   m_cellSize = size;
   notify({});

@@ -106,6 +106,11 @@ class Grid {
   void showRow(int row);
   /// How often that was asked, and for which row the last time.
   std::pair<int, int> showsAsked() const { return {m_showsAsked, m_shownRow}; }
+  /// Asks the view to bring a row to its top, as far as the rows below it fill the view, once.
+  void scrollTo(int row);
+  /// Which row was asked for last, -1 for none, and how often one was.
+  int topRow() const { return m_topRow; }
+  int scrollsAsked() const { return m_scrollsAsked; }
   /// Height of the rows and width of the columns as told in the grid's own unit, 0 where none is told.
   int cellSize() const { return m_cellSize; }
   void setCellSize(int size);
@@ -156,7 +161,8 @@ class Grid {
   std::map<std::pair<int, int>, Bar> m_bars;
   std::map<int, int> m_widths;
   int m_cellSize = 0;
-  int m_fitsAsked = 0, m_showsAsked = 0, m_shownRow = 0;  // of the view: no part of the value
+  // Of the view, no part of the value.
+  int m_fitsAsked = 0, m_showsAsked = 0, m_shownRow = 0, m_topRow = -1, m_scrollsAsked = 0;
   std::map<int, std::vector<std::string>> m_choices;
 
   std::function<void(const GridChange&)> m_listener;

@@ -128,6 +128,10 @@ void GridView::followGrid() {
   layoutColumns();
   layoutRows();
   if (m_look.atEnd && m_lastRows != rows) scrollToBottom();
+  if (m_scrollsAsked != m_grid.scrollsAsked()) {
+    m_scrollsAsked = m_grid.scrollsAsked();
+    scrollTo(m_model->index(m_model->modelRow(m_grid.topRow()), std::max(0, columnAt(0))), PositionAtTop);
+  }
   m_lastRows = rows;
   if (const auto [asked, row] = m_grid.showsAsked(); m_showsAsked != asked) {
     m_showsAsked = asked;

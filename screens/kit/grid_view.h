@@ -140,10 +140,10 @@ class GridView : public QTableView {
   mutable QHash<QString, int> m_cellAdvances, m_headingAdvances;  // widths of texts already met in these fonts
   std::set<int> m_hiddenRows;                                     // as last given to the view, grid's counting
   std::map<int, int> m_userWidths;                                // of columns that the user or "Adatta colonne" set
-  std::map<int, int> m_gridWidths;        // of columns that the grid asked to be fitted, where these share the room
-  int m_lastRows = 0;                     // of the model when the view last followed it
-  int m_fitsAsked = 0, m_showsAsked = 0;  // by the grid, as far as the view has followed
-  bool m_keepEnd = false;                 // the theme changes while the last row is in sight
+  std::map<int, int> m_gridWidths;  // of columns that the grid asked to be fitted, where these share the room
+  int m_lastRows = 0;               // of the model when the view last followed it
+  int m_fitsAsked = 0, m_showsAsked = 0, m_scrollsAsked = 0;  // by the grid, as far as the view has followed
+  bool m_keepEnd = false;                                     // the theme changes while the last row is in sight
   bool m_layingOut = false, m_following = false;
   bool m_afterDoubleClick = false;          // the release that ends a double click is no click
   std::pair<int, int> m_pressed{-1, -1};    // cell under the press, grid's counting
