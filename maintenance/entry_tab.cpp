@@ -39,7 +39,14 @@ void connectCalendars(Archivio& a) {
 
 void connectList(Archivio& a) {
   a.FgDB.onCellClick([&a](int row, int) { EvidenziaRiga(a, row); });
+  a.FgDB.onKey([&a](const Key& key) {
+    if (key.code != Key::Code::Enter || key.control || key.alt) return false;
+    SelezionaEstrazione(a);
+    return true;
+  });
   a.Command11.onEvent([&a] { SelezionaEstrazione(a); });
+  a.Command13.onEvent([&a] { a.FgDB.scrollTo(a.FgDB.rows() - 1); });
+  a.Command14.onEvent([&a] { a.FgDB.scrollTo(1); });
 }
 
 void readTable(Archivio& a) {

@@ -179,6 +179,25 @@ TEST(TheList, SelezioneEstrazioneTakesTheRowAsTheDrawShown) {
   EXPECT_EQ(a.SSTab1.index(), Archivio::kGestione);
 }
 
+TEST(TheList, EnterTakesTheRowToo) {
+  ArchivioWorld world;
+  Archivio& a = world.openOn(threeDraws());
+  a.SSTab1.set(Archivio::kElenco);
+  a.FgDB.setCurrent(1, 1);
+  EXPECT_TRUE(a.FgDB.offerKey({.code = Key::Code::Enter}));
+  EXPECT_EQ(a.LBLESTRAZIONE.text(), "07/01/1939");
+}
+
+TEST(TheList, GoesToItsFirstAndItsLastRow) {
+  ArchivioWorld world;
+  Archivio& a = world.openOn(threeDraws());
+  a.Command13.press();
+  EXPECT_EQ(a.FgDB.topRow(), 3);
+  a.Command14.press();
+  EXPECT_EQ(a.FgDB.topRow(), 1);
+  EXPECT_EQ(a.HScrestrazione.value(), 3);
+}
+
 TEST(TheList, WithoutASelectedRowNothingIsTaken) {
   ArchivioWorld world;
   Archivio& a = world.openOn(threeDraws());
