@@ -19,6 +19,7 @@
 #include "screens/SistemiOrtogonali.h"
 #include "screens/Speciale.h"
 #include "screens/VerificaArchivio.h"
+#include "screens/archivio.h"
 #include "screens/shell/Container.h"
 #include "screens/workbench/Sommativi1.h"
 
@@ -69,6 +70,7 @@ std::vector<ScreenEntry> allScreens() {
       loaded<Inizio>(entry<Inizio, InizioScreen>("INIZIO", Place::Window, {860, 400})),
       loaded<Container>(entry<Container, ContainerScreen>("Container", Place::Window, {1920, 1080})),
       workbench(),
+      loaded<Archivio>(entry<Archivio, ArchivioScreen>("archivio", Place::Fills)),
       atRight(loaded<MiniList>(
           entry<MiniList, EstrazioniMinielencoScreen>("Estrazioni_minielenco", Place::Framed, {660, 490}))),
       loaded<DiDiSO>(entry<DiDiSO, DiDiSOScreen>("DiDiSO", Place::Fills)),
