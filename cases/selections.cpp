@@ -1,5 +1,6 @@
 #include "cases/selections.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -190,9 +191,14 @@ void RicavaRuoteGioco(Workbench& w) {
     if (w.FgRG.back(0, wheel) == Verde) w.RuoteGioco |= 1U << wheel;
 }
 
+void SegueArchivio(Workbench& w) {
+  w.hs1.setMaximum(w.archive.UltimaEstrazione());
+  CambiaEstrazioneRiferimento(w);
+}
+
 void CambiaEstrazioneRiferimento(Workbench& w) {
   if (w.hs1.maximum() != w.archive.UltimaEstrazione()) w.hs1.setMaximum(w.archive.UltimaEstrazione());
-  const int draw = w.hs1.value();
+  const int draw = std::min(w.hs1.value(), w.archive.UltimaEstrazione());  // none in an archive without draws
   w.EstrazioneRiferimento = draw;
   w.LabelRifE.setText(std::to_string(draw) + " " + w.archive.DateEstrazioni(draw) + "  M-" +
                       std::to_string(w.archive.ProgMese(draw)));

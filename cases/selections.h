@@ -12,6 +12,11 @@ void ApreBanco(Workbench& w);
 /// `RuoteGioco` = the green cells of `FgRG`.
 void RicavaRuoteGioco(Workbench& w);
 
+/// After a reload of the archive: the scroll bar ends at the last draw, a reference draw that has gone moves there, and
+/// its label is written anew. Cases, formulas, hits and forecasts stay as they were found; indices beyond the archive
+/// read as empty draws.
+void SegueArchivio(Workbench& w);
+
 /// Change of `hs1`: the reference draw and the label beside it.
 void CambiaEstrazioneRiferimento(Workbench& w);
 

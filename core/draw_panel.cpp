@@ -24,17 +24,22 @@ void moveToDraw(Scroll& scroller, const Archive& archive, int draw) {
   scroller.set(draw);
 }
 
-void showDraw(const Archive& archive, const DrawPanel& panel) {
+void writeDraw(const Archive& archive, const DrawPanel& panel) {
   if (panel.scroller.maximum() != archive.UltimaEstrazione()) panel.scroller.setMaximum(archive.UltimaEstrazione());
-  const int draw = panel.scroller.value();
+  const int draw = std::min(panel.scroller.value(), archive.UltimaEstrazione());  // none in an archive without draws
   panel.index.setText(std::to_string(draw));
   panel.date.setText(archive.DateEstrazioni(draw));
   panel.progressives.setText("PM=" + std::to_string(archive.ProgMese(draw)) +
                              "   PA=" + std::to_string(archive.ProgAnno(draw)));
   const Grid::Batch batch(panel.numbers);
-  whitenNumbers(panel.numbers);
   for (int wheel = 0; wheel < kWheels; ++wheel)
     for (int p = 1; p <= kPositions; ++p) panel.numbers.setNumber(wheel + 1, p, archive.NumeriEstratti(draw, wheel, p));
+}
+
+void showDraw(const Archive& archive, const DrawPanel& panel) {
+  const Grid::Batch batch(panel.numbers);
+  whitenNumbers(panel.numbers);
+  writeDraw(archive, panel);
 }
 
 std::optional<int> askDrawByIndex(Shell& shell, const Archive& archive) {

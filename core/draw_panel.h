@@ -26,6 +26,9 @@ void whitenNumbers(Grid& numbers);
 /// The scroll bar at a draw of the archive, which may have grown since the bar was last moved.
 void moveToDraw(Scroll& scroller, const Archive& archive, int draw);
 
+/// The draw at which the scroll bar stands, the marks as they are. The bar follows the length of the archive.
+void writeDraw(const Archive& archive, const DrawPanel& panel);
+
 /// The draw at which the scroll bar stands, without marks. The bar follows the length of the archive.
 void showDraw(const Archive& archive, const DrawPanel& panel);
 

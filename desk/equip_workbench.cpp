@@ -63,4 +63,12 @@ void connectDatabase(Workbench& w, const Program& program) {
   };
 }
 
+std::unique_ptr<Workbench> makeWorkbench(Program& program) {
+  auto w = std::make_unique<Workbench>(program.archive, program.shell);
+  equipWorkbench(*w);
+  connectDatabase(*w, program);
+  w->keep(program.archiveReloaded.subscribe([&bench = *w] { SegueArchivio(bench); }));
+  return w;
+}
+
 }  // namespace trv5

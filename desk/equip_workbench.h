@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "cases/workbench.h"
 #include "core/program.h"
 
@@ -11,5 +13,9 @@ void equipWorkbench(Workbench& w);
 
 /// Lets the workbench save its configurations in the main database of the program, which must outlive it.
 void connectDatabase(Workbench& w, const Program& program);
+
+/// The workbench of a run of the program, equipped and connected to its database; it follows the reloads of the
+/// archive.
+std::unique_ptr<Workbench> makeWorkbench(Program& program);
 
 }  // namespace trv5

@@ -15,7 +15,9 @@ DrawPanel rightPanel(MiniList& list) {
 
 }  // namespace
 
-MiniList::MiniList(Program& program) : MiniList(program.archive, program.shell) {}
+MiniList::MiniList(Program& program) : MiniList(program.archive, program.shell) {
+  keep(program.archiveReloaded.subscribe([this] { SegueArchivio(*this); }));
+}
 
 MiniList::MiniList(const Archive& draws, Shell& shell)
     : Form(shell, "Estrazioni_minielenco", "Mini elenco", kHelpContext),
@@ -65,6 +67,14 @@ void MostraEstrazioneSinistra(MiniList& list) {
 
 void MostraEstrazioneDestra(MiniList& list) {
   showDraw(list.archive, rightPanel(list));
+}
+
+void SegueArchivio(MiniList& list) {
+  for (const DrawPanel& panel : {leftPanel(list), rightPanel(list)}) {
+    const std::string before = panel.date.text();
+    writeDraw(list.archive, panel);
+    if (panel.date.text() != before) whitenNumbers(panel.numbers);
+  }
 }
 
 void MostraElementi(MiniList& list, const MarkedDraw& first, const std::optional<MarkedDraw>& second) {

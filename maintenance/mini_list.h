@@ -44,6 +44,10 @@ void MostraEstrazioneSinistra(MiniList& list);
 /// Change of `Hs2`: the same on the right.
 void MostraEstrazioneDestra(MiniList& list);
 
+/// After a reload of the archive: both scroll bars end at the last draw, and both panels are written anew; marks stay
+/// on a draw that is still there.
+void SegueArchivio(MiniList& list);
+
 /// Click on a number of the left panel: marks it in green, or takes the mark away. Codes of wheels take none.
 void SegnaNumero(MiniList& list, int row, int column);
 

@@ -49,13 +49,7 @@ ScreenEntry loaded(ScreenEntry made) {
 
 ScreenEntry workbench() {
   ScreenEntry made = {.name = "Sommativi1",
-                      .makeForm =
-                          [](Program& program) {
-                            auto w = std::make_unique<Workbench>(program.archive, program.shell);
-                            equipWorkbench(*w);
-                            connectDatabase(*w, program);
-                            return w;
-                          },
+                      .makeForm = [](Program& program) { return makeWorkbench(program); },
                       .makeWidget = [](Form& form) { return new Sommativi1Screen(static_cast<Workbench&>(form)); },
                       .load = [](Form& form) { ApreBanco(static_cast<Workbench&>(form)); },
                       .end = [](Form& form) { keepDraft(static_cast<Workbench&>(form)); },
