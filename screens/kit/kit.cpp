@@ -40,6 +40,27 @@ const char* nameOf(ButtonKind kind) {
   return "secondary";
 }
 
+// The head of a calendar looks like that of a grid, and its arrows are ours.
+void dressHead(QCalendarWidget& calendar) {
+  auto* const head = calendar.findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"));
+  if (head == nullptr) return;
+  withTheme(*head, [head] {
+    const auto paint = [](QWidget& widget, QPalette::ColorRole role, Rgb colour) {
+      QPalette palette = widget.palette();
+      palette.setColor(role, toColor(colour));
+      widget.setPalette(palette);
+    };
+    paint(*head, QPalette::Highlight, Theme::current().colours().heading);
+    for (auto* const button : head->findChildren<QToolButton*>())
+      paint(*button, QPalette::HighlightedText, Theme::current().colours().headingText);
+  });
+  const std::pair<const char*, const char*> arrows[] = {{"qt_calendar_prevmonth", "back"},
+                                                        {"qt_calendar_nextmonth", "forward"}};
+  for (const auto& [button, name] : arrows)
+    if (auto* const arrow = calendar.findChild<QToolButton*>(QLatin1String(button)))
+      arrow->setIcon(icon(QLatin1String(name)));
+}
+
 void setType(QWidget& widget, Type type) {
   const char* const names[] = {"base", "small", "hint", "title", "large", "lead"};
   widget.setProperty("type", QLatin1String(names[static_cast<int>(type)]));
@@ -254,6 +275,7 @@ QCalendarWidget* Kit::calendar(std::string_view name) {
   widget->setWeekdayTextFormat(Qt::Saturday, QTextCharFormat());
   widget->setWeekdayTextFormat(Qt::Sunday, QTextCharFormat());
   bind(*widget, control<Calendar>(name));
+  dressHead(*widget);
   return widget;
 }
 
