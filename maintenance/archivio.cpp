@@ -6,6 +6,7 @@ namespace trv5 {
 
 Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivio", kHelpContext), program(run) {
   connectEntry(*this);
+  FgImporta.setEmptyText("Premi CONTROLLO AGGIORNAMENTI o AGGIORNA DA FILE");
 }
 
 void Archivio::load() {
