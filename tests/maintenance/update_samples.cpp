@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/archive_builder.h"
+
 namespace trv5 {
 namespace {
 
@@ -23,7 +25,52 @@ std::vector<std::vector<std::string>> linesOf(const std::string& text) {
   return lines;
 }
 
+// A line about a draw of the archive, or about one that it lacks.
+std::string randomLine(std::mt19937& rng, const std::vector<DrawRow>& stored, bool nonsense) {
+  DrawRow row = stored[rng() % stored.size()];
+  const auto kind = rng() % 10;
+  if (kind < 2)
+    for (std::string& wheel : row.wheels)
+      if (wheel.empty()) wheel = "00-00-00-00-00";
+  if (kind == 2 || kind == 3) row.date[0] = row.date[0] == '2' ? '1' : '2';
+  if (kind == 4) row.wheels[rng() % 11] = wheelText(randomWheel(rng));
+  if (kind == 5) row.wheels[rng() % 11][0] = ' ';
+  if (nonsense && rng() % 4 == 0) row.date = rng() % 2 == 0 ? "31/02/2020" : "data errat";
+  std::string line = updateLine(row);
+  if (kind == 6) line.resize(1 + rng() % (line.size() - 1));
+  if (kind == 7) line += "  e altro ancora";
+  if (kind == 8) line = std::string(rng() % 20, ' ');
+  return line;
+}
+
+std::string utf16(const std::string& ascii) {
+  std::string bytes = "\xFF\xFE";
+  for (const char c : ascii) bytes += std::string{c, '\0'};
+  return bytes;
+}
+
 }  // namespace
+
+std::string randomUpdateBytes(std::mt19937& rng, const std::vector<DrawRow>& stored) {
+  const bool nonsense = rng() % 8 == 0;
+  const std::string end = rng() % 2 == 0 ? "\n" : "\r\n";
+  std::string text;
+  for (auto lines = rng() % 12; lines > 0; --lines) {
+    text += randomLine(rng, stored, nonsense);
+    if (lines > 1 || rng() % 2 == 0) text += rng() % 8 == 0 ? "\n" : end;
+  }
+  switch (rng() % 8) {
+    case 0:
+      return "\xEF\xBB\xBF" + text;
+    case 1:
+      return utf16(text);
+    case 2:
+      if (!text.empty()) text[rng() % text.size()] = '\xE8';
+      return text;
+    default:
+      return text;
+  }
+}
 
 std::string updateLine(const DrawRow& row) {
   std::string line = row.date;

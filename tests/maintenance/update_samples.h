@@ -1,7 +1,6 @@
 #pragma once
 
-#include <array>
-#include <optional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,11 @@ namespace trv5 {
 std::string updateLine(const DrawRow& row);
 
 bool sameDraws(const std::vector<DrawRow>& a, const std::vector<DrawRow>& b);
+
+/// The bytes of an update file about these draws of an archive: a mixture of lines that agree, are missing there,
+/// differ, are blank, cut short, too long or nonsense, with either line end, now and then with a byte order mark or in
+/// another encoding. Most files have dates only.
+std::string randomUpdateBytes(std::mt19937& rng, const std::vector<DrawRow>& stored);
 
 /// What an update file in UTF-8 holds, read character by character.
 std::vector<DrawRow> plainUpdateRows(const std::string& text);
