@@ -32,11 +32,13 @@ DrawWriter::DrawWriter(Database& archive) : m_archive(archive), m_transaction(ar
   writeAllSums();
 }
 
-int DrawWriter::writeRow(const char* sql, const DrawRow& row, const Registration& registered) {
+int DrawWriter::writeRow(const char* sql, const DrawRow& row, const Registration& registered, EmptyWheel empty) {
   Statement statement = m_archive.prepare(sql);
   statement.bind(1, isoOf(row.date));
-  for (int wheel = 0; wheel < kWheels; ++wheel)
-    statement.bindOrNull(wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
+  for (int wheel = 0; wheel < kWheels; ++wheel) {
+    const std::string& text = row.wheels[static_cast<std::size_t>(wheel)];
+    empty == EmptyWheel::Null ? statement.bindOrNull(wheel + 2, text) : statement.bind(wheel + 2, text);
+  }
   statement.bindOrNull(kWheels + 2, registered.datareg.empty() ? "" : isoOf(registered.datareg));
   return statement.bindOrNull(kWheels + 3, registered.orareg).run();
 }
@@ -49,7 +51,7 @@ void DrawWriter::put(const DrawRow& row, const Registration& registered) {
   if (!correct(row, registered)) add(row, registered);
 }
 
-void DrawWriter::add(const DrawRow& row, const Registration& registered) {
+void DrawWriter::add(const DrawRow& row, const Registration& registered, EmptyWheel empty) {
   if (!m_draws) {
     Statement count = m_archive.prepare("SELECT count(*) FROM EstrazioniLotto");
     count.step();
@@ -57,15 +59,19 @@ void DrawWriter::add(const DrawRow& row, const Registration& registered) {
   }
   // One more and the archive couldn't be loaded again.
   if (*m_draws >= Archive::kMaxDraws) throw UserError("L'archivio ha già 9999 estrazioni e non può averne altre.");
-  writeRow(kInsert, row, registered);
+  writeRow(kInsert, row, registered, empty);
   writeSum(row);
   ++*m_draws;
 }
 
-bool DrawWriter::correct(const DrawRow& row, const Registration& registered) {
-  if (writeRow(kUpdate, row, registered) == 0) return false;
+bool DrawWriter::correct(const DrawRow& row, const Registration& registered, EmptyWheel empty) {
+  if (writeRow(kUpdate, row, registered, empty) == 0) return false;
   writeSum(row);
   return true;
+}
+
+bool DrawWriter::has(std::string_view date) const {
+  return m_archive.prepare("SELECT 1 FROM EstrazioniLotto WHERE DataEstrazione = ?").bind(1, isoOf(date)).step();
 }
 
 bool DrawWriter::remove(std::string_view date) {

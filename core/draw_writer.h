@@ -14,6 +14,9 @@ struct Registration {
   std::string datareg, orareg;
 };
 
+/// How a wheel without a text is stored: as not drawn, or as the empty text that a file holds there.
+enum class EmptyWheel { Null, Text };
+
 /// Writes draws into an archive, each with its sum, in one transaction: rolled back unless committed. Everything that
 /// changes `EstrazioniLotto` goes through here. An archive without sums gets those of all its draws. All functions
 /// throw DatabaseError; a date that is none throws UserError.
@@ -25,9 +28,11 @@ class DrawWriter {
   /// Adds the draw, or takes the place of the one of that date.
   void put(const DrawRow& row, const Registration& registered = {});
   /// Adds a draw; throws DatabaseError (Constraint) when there is one of that date, UserError when the archive is full.
-  void add(const DrawRow& row, const Registration& registered);
+  void add(const DrawRow& row, const Registration& registered, EmptyWheel empty = EmptyWheel::Null);
   /// Overwrites the wheels of the draw of that date; false, and nothing is written, when there is none.
-  [[nodiscard]] bool correct(const DrawRow& row, const Registration& registered);
+  [[nodiscard]] bool correct(const DrawRow& row, const Registration& registered, EmptyWheel empty = EmptyWheel::Null);
+  /// True when the archive, as written so far, holds a draw of that date.
+  bool has(std::string_view date) const;
   /// Takes the draw of that date, "GG/MM/AAAA", out of the archive; false when there is none.
   bool remove(std::string_view date);
   /// Takes all draws as they stand: their sums are written anew.
@@ -35,7 +40,7 @@ class DrawWriter {
   void commit() { m_transaction.commit(); }
 
  private:
-  int writeRow(const char* sql, const DrawRow& row, const Registration& registered);
+  int writeRow(const char* sql, const DrawRow& row, const Registration& registered, EmptyWheel empty);
   void writeSum(const DrawRow& row);
 
   Database& m_archive;

@@ -107,6 +107,24 @@ TEST(DrawSums, ADrawIsWrittenChangedAndDeletedWithItsSum) {
   EXPECT_THROW(writeDraw(archive, drawOf("30/02/1939", {})), UserError);
 }
 
+TEST(DrawSums, AnEmptyWheelIsStoredAsNotDrawnOrAsTheEmptyTextOfItsFile) {
+  TempFolder folder;
+  createArchive(folder / "a.mdb", someRows(), Existing::Refuse);
+  Database archive(folder / "a.mdb", FileKind::Archive);
+  DrawWriter writer(archive);
+  EXPECT_FALSE(writer.has("28/01/1939"));
+  writer.put(drawOf("28/01/1939", {}));
+  writer.add(drawOf("29/01/1939", {}), {}, EmptyWheel::Text);
+  EXPECT_TRUE(writer.has("28/01/1939"));
+  writer.commit();
+  Statement query = archive.prepare("SELECT Nz FROM EstrazioniLotto WHERE DataEstrazione > '1939-01-25' ORDER BY 1");
+  ASSERT_TRUE(query.step());
+  EXPECT_TRUE(query.isNull(0));
+  ASSERT_TRUE(query.step());
+  EXPECT_FALSE(query.isNull(0));
+  EXPECT_THAT(differencesFromSums(archive, readDraws(archive)), IsEmpty());
+}
+
 TEST(DrawSums, AnAbandonedWriteLeavesDrawsAndSumsAsTheyWere) {
   TempFolder folder;
   createArchive(folder / "a.mdb", someRows(), Existing::Refuse);
