@@ -2,7 +2,9 @@
 
 #include "core/archive_load.h"
 #include "core/database.h"
+#include "maintenance/formats/exchange_files.h"
 #include "provision/draw_days.h"
+#include "support/plain_exchange.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
 
@@ -58,6 +60,14 @@ TEST_F(RealHistory, HasTheDaysAndWheelsOfTheDemonstrationArchive) {
       EXPECT_EQ(!rows[i].wheels[static_cast<std::size_t>(wheel)].empty(), holds(wheelsDrawnOn(days[i]), wheel))
           << rows[i].date << " " << wheel;
   }
+}
+
+TEST_F(RealHistory, GivesTheFilesForOtherProgramsByteByByte) {
+  EXPECT_EQ(datiIii(archive).size(), 7370U * 110U);
+  EXPECT_TRUE(datiIii(archive) == plainDatiIii(archive));
+  EXPECT_TRUE(ruotafast(archive) == plainRuotafast(archive));
+  EXPECT_TRUE(nazionale(archive) == plainNazionale(archive));
+  EXPECT_EQ(nazionale(archive).substr(nazionale(archive).size() - 18), "07370-5189827037\r\n");
 }
 
 }  // namespace
