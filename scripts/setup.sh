@@ -5,8 +5,8 @@
 # Debian 12. What the programs need to be built and run; the fonts are those that the screens are designed for.
 packages=(build-essential cmake ninja-build ccache pkg-config git cmark
   qt6-base-dev qt6-svg-dev qt6-wayland qt6-translations-l10n fonts-noto-core
-  libsqlitecpp-dev libsqlite3-dev libfmt-dev libsodium-dev libarchive-dev zlib1g-dev libxlsxwriter-dev nlohmann-json3-dev
-  libgtest-dev libgmock-dev libbenchmark-dev)
+  libsqlitecpp-dev libsqlite3-dev libfmt-dev libsodium-dev libcurl4-openssl-dev libarchive-dev zlib1g-dev
+  libxlsxwriter-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev)
 
 # Objects compiled in one checkout serve the next one too.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
