@@ -7,6 +7,7 @@
 #include "core/database.h"
 
 namespace trv5 {
+
 UpdateReport writeUpdate(Database& archive, const std::vector<DrawRow>& rows, const std::vector<UpdateOrder>& orders,
                          const Registration& registered, EmptyWheel empty) {
   UpdateReport report;
