@@ -1,5 +1,8 @@
 #include "console/console_shell.h"
 
+#include <chrono>
+#include <thread>
+
 #include "screens/kit/grid_print.h"
 
 namespace trv5 {
@@ -93,6 +96,10 @@ void ConsoleShell::print(const Grid& grid, const PrintSetup& setup) {
 
 void ConsoleShell::openAddress(const std::string& url) {
   m_script.messages.push_back({.kind = "address", .title = {}, .text = url});
+}
+
+void ConsoleShell::inSteps(std::function<bool()> step) {
+  while (step()) std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 DateTime ConsoleShell::now() {

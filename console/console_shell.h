@@ -47,6 +47,8 @@ class ConsoleShell : public QtShell {
   std::optional<std::filesystem::path> chooseSave(const FileBox& box) override;
   void print(const Grid& grid, const PrintSetup& setup) override;
   void openAddress(const std::string& url) override;
+  /// The next line finds everything done.
+  void inSteps(std::function<bool()> step) override;
   DateTime now() override;
   void quit() override { m_ended = true; }
 

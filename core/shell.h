@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -92,6 +93,11 @@ class Shell {
   virtual void status(const std::string& text) = 0;
   /// Offers a button of a screen beside that line, until the next line or operation; null for none.
   virtual void offer(const Button* button) = 0;
+  /// The pointer as an hourglass, or as ever; see Hourglass.
+  virtual void hourglass(bool shown) = 0;
+  /// Runs `step` again and again, between what the user does and never inside an operation, until it says false. A step
+  /// doesn't wait for anything and throws nothing. Where no user is, the steps run before this comes back.
+  virtual void inSteps(std::function<bool()> step) = 0;
   virtual DateTime now() = 0;
   /// Ends the program.
   virtual void quit() = 0;
@@ -101,6 +107,18 @@ class Shell {
 
  private:
   OperationDepth m_operations;
+};
+
+/// The pointer is an hourglass as long as this lives.
+class Hourglass {
+ public:
+  explicit Hourglass(Shell& shell) : m_shell(shell) { m_shell.hourglass(true); }
+  ~Hourglass() { m_shell.hourglass(false); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Shell& m_shell;
 };
 
 }  // namespace trv5

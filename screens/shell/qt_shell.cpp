@@ -325,6 +325,24 @@ void QtShell::offer(const Button* button) {
                     });
 }
 
+void QtShell::hourglass(bool shown) {
+  shown ? QGuiApplication::setOverrideCursor(Qt::WaitCursor) : QGuiApplication::restoreOverrideCursor();
+}
+
+void QtShell::inSteps(std::function<bool()> step) {
+  constexpr int kPause = 15;  // milliseconds
+  auto* const timer = new QTimer(this);
+  connect(timer, &QTimer::timeout, timer, [this, timer, step = std::move(step)] {
+    if (operations().running()) return;  // one that shows a box lets timers run
+    timer->stop();                       // the step may show a box too
+    if (step())
+      timer->start(kPause);
+    else
+      timer->deleteLater();
+  });
+  timer->start(kPause);
+}
+
 DateTime QtShell::now() {
   const QDateTime moment = QDateTime::currentDateTime();
   const QDate date = moment.date();

@@ -63,6 +63,8 @@ class QtShell : public QObject, public Shell {
   void progress(int value, int maximum) override;
   void status(const std::string& text) override;
   void offer(const Button* button) override;
+  void hourglass(bool shown) override;
+  void inSteps(std::function<bool()> step) override;
   DateTime now() override;
   void quit() override;
 

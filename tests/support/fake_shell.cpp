@@ -1,5 +1,8 @@
 #include "support/fake_shell.h"
 
+#include <chrono>
+#include <thread>
+
 #include "core/errors.h"
 
 namespace trv5 {
@@ -73,6 +76,22 @@ Form& FakeShell::show(std::string_view screen) {
   }
   shownScreens.push_back(name);
   return *open->second;
+}
+
+void FakeShell::inSteps(std::function<bool()> step) {
+  if (holdSteps) {
+    steps.push_back(std::move(step));
+  } else {
+    while (step()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+}
+
+bool FakeShell::runSteps() {
+  std::vector<std::function<bool()>> run;
+  run.swap(steps);
+  for (std::function<bool()>& step : run)
+    if (step()) steps.push_back(std::move(step));
+  return !steps.empty();
 }
 
 void FakeShell::forgetScreens() {

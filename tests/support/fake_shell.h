@@ -68,7 +68,11 @@ class FakeShell : public Shell {
   std::vector<int> helpContexts;
   std::vector<std::string> addresses, statusTexts, reasons;
   std::vector<std::pair<int, int>> progressValues;
-  DateTime clock{2026, 8, 22, 10, 30, 15};  ///< what now() tells
+  DateTime clock{2026, 8, 22, 10, 30, 15};   ///< what now() tells
+  int hourglasses = 0;                       ///< shown just now
+  int hourglassesShown = 0;                  ///< in all
+  bool holdSteps = false;                    ///< steps wait in `steps` instead of running at once
+  std::vector<std::function<bool()>> steps;  ///< works that go on, as far as they wait
   int quits = 0;
   std::string offered;  ///< the name of the button that the bar offers, empty for none
 
@@ -90,6 +94,13 @@ class FakeShell : public Shell {
     offered.clear();
   }
   void offer(const Button* button) override { offered = button == nullptr ? "" : button->name(); }
+  void hourglass(bool shownNow) override {
+    hourglasses += shownNow ? 1 : -1;
+    hourglassesShown += shownNow ? 1 : 0;
+  }
+  void inSteps(std::function<bool()> step) override;
+  /// One step of each work that waits; true while there is any.
+  bool runSteps();
   DateTime now() override { return clock; }
   void quit() override { ++quits; }
 
