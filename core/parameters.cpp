@@ -11,6 +11,13 @@ std::optional<std::string> Parameters::Valore1(std::string_view parameter) const
   return seek.text(0);
 }
 
+void Parameters::put(std::string_view parameter, std::string_view value) {
+  const char* const sql = Valore1(parameter)
+                              ? "UPDATE ParametriProgramma SET Valore1 = ?1 WHERE Parametro = ?2 COLLATE NOCASE"
+                              : "INSERT INTO ParametriProgramma (Valore1, Parametro) VALUES (?1, ?2)";
+  m_database.prepare(sql).bind(1, value).bind(2, parameter).run();
+}
+
 bool Parameters::setValore1(std::string_view parameter, std::string_view value) {
   if (!Valore1(parameter)) return false;
   Database::Transaction transaction(m_database);

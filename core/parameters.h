@@ -18,6 +18,8 @@ class Parameters {
   std::optional<std::string> Valore1(std::string_view parameter) const;
   /// Sets `Valore1` of an existing row and keeps the row's own spelling of the name. A missing row isn't made: false.
   bool setValore1(std::string_view parameter, std::string_view value);
+  /// Sets `Valore1`, making the row where there is none. Inside a transaction of the caller.
+  void put(std::string_view parameter, std::string_view value);
 
  private:
   Database& m_database;

@@ -14,8 +14,8 @@ MainContents shippedContents(const std::string& archive) {
           {"IndirizzoInternet", "https://example.org/estrazioni"},
           {"PercorsoDati.iii"},
           {"PercorsoRuotafast", "/BRNT3"},
-          {"HostWebAggiornamento", "https://example.org"},
-          {"HostFtpAggiornamento", "ftp://example.org"},
+          {"HostWebAggiornamento"},
+          {"HostFtpAggiornamento"},
       },
       shippedSystems(),
   };
