@@ -2,16 +2,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <spawn.h>
-#include <sys/wait.h>
 
 #include <thread>
 
+#include "support/ftp_server.h"
 #include "support/loopback_server.h"
 #include "support/temp_folder.h"
-
-extern char** environ;
 
 namespace trv5 {
 namespace {
@@ -170,51 +166,23 @@ TEST(Transfer, RefusesAddressesOfOtherKinds) {
 }
 
 #ifdef TRV5_FTP_SERVER
-// The ftp server of a package, on a folder of its own.
-class FtpServer {
- public:
-  explicit FtpServer(const std::filesystem::path& folder) : m_port(std::to_string(freePort())) {
-    std::string python = TRV5_FTP_SERVER, from = folder.string();
-    std::string arguments[] = {python, "-m", "pyftpdlib", "-i", "127.0.0.1", "-p", m_port, "-d", from};
-    std::vector<char*> argv;
-    for (std::string& argument : arguments) argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    posix_spawn_file_actions_t quiet;
-    posix_spawn_file_actions_init(&quiet);
-    posix_spawn_file_actions_addopen(&quiet, 2, "/dev/null", 1, 0);
-    if (posix_spawn(&m_child, python.c_str(), &quiet, nullptr, argv.data(), environ) != 0) m_child = -1;
-    posix_spawn_file_actions_destroy(&quiet);
+// It takes a moment until the server listens.
+Fetched fetchWhenUp(const std::string& address) {
+  Fetched fetched = fetch(address);
+  for (int i = 0; i < 200 && fetched.error.find("non accetta") != std::string::npos; ++i) {
+    std::this_thread::sleep_for(milliseconds(50));
+    fetched = fetch(address);
   }
-  ~FtpServer() {
-    if (m_child <= 0) return;
-    kill(m_child, SIGTERM);
-    waitpid(m_child, nullptr, 0);
-  }
-  FtpServer(const FtpServer&) = delete;
-  FtpServer& operator=(const FtpServer&) = delete;
-  std::string address() const { return "ftp://127.0.0.1:" + m_port; }
-  // It takes a moment until it listens.
-  Fetched fetchWhenUp(const std::string& path) const {
-    Fetched fetched = fetch(address() + path);
-    for (int i = 0; i < 200 && fetched.error.find("non accetta") != std::string::npos; ++i) {
-      std::this_thread::sleep_for(milliseconds(50));
-      fetched = fetch(address() + path);
-    }
-    return fetched;
-  }
-
- private:
-  std::string m_port;
-  pid_t m_child = -1;
-};
+  return fetched;
+}
 
 TEST(Transfer, FetchesByFtpToo) {
   TempFolder folder;
   std::filesystem::create_directory(folder / "inside");
   writeBytes(folder.path() / "inside" / "draws.txt", "one\r\ntwo\r\n");
-  const FtpServer server(folder.path());
-  EXPECT_EQ(server.fetchWhenUp("/inside/draws.txt").bytes, "one\r\ntwo\r\n");
-  EXPECT_THAT(server.fetchWhenUp("/inside/other.txt").error, HasSubstr("non ha il file"));
+  const FtpServer server(TRV5_FTP_SERVER, folder.path());
+  EXPECT_EQ(fetchWhenUp(server.address() + "/inside/draws.txt").bytes, "one\r\ntwo\r\n");
+  EXPECT_THAT(fetchWhenUp(server.address() + "/inside/other.txt").error, HasSubstr("non ha il file"));
 }
 #endif
 
