@@ -1,15 +1,18 @@
 #include "maintenance/archivio.h"
 
 #include "maintenance/entry_tab.h"
+#include "maintenance/update_tab.h"
 
 namespace trv5 {
 
 Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivio", kHelpContext), program(run) {
   connectEntry(*this);
   FgImporta.setEmptyText("Premi CONTROLLO AGGIORNAMENTI o AGGIORNA DA FILE");
+  connectUpdateTab(*this);
 }
 
 void Archivio::load() {
+  MostraServer(*this);
   ApreArchivio(*this);
 }
 

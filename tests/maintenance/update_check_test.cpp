@@ -6,7 +6,6 @@
 #include <random>
 
 #include "core/database_files.h"
-#include "core/dates.h"
 #include "maintenance/formats/update_text.h"
 #include "maintenance/update_samples.h"
 #include "support/archive_builder.h"
@@ -113,39 +112,6 @@ TEST_F(UpdateChecked, RepeatedRowsAreEachCompared) {
   EXPECT_EQ(check.lines.size(), 3U);
 }
 
-// Row by row, field by field, as the check is told.
-UpdateCheck plainCheck(const std::vector<DrawRow>& rows, const std::vector<DrawRow>& archive) {
-  UpdateCheck check;
-  check.marks.resize(rows.size());
-  int errors = 0;
-  for (std::size_t i = rows.size(); i-- > 0;) {
-    if (!dayOfText(rows[i].date)) {
-      check.stoppedAt = i;
-      return check;
-    }
-    const DrawRow* found = nullptr;
-    for (const DrawRow& draw : archive)
-      if (draw.date == rows[i].date) found = &draw;
-    if (found == nullptr) {
-      check.marks[i].missing = true;
-      check.lines.push_back("Manca estrazione del: " + rows[i].date);
-      continue;
-    }
-    int count = 0;
-    for (std::size_t wheel = 0; wheel < 11; ++wheel) {
-      if (found->wheels[wheel].empty() || found->wheels[wheel] != rows[i].wheels[wheel]) continue;
-      check.marks[i].agrees[wheel] = true;
-      ++count;
-    }
-    if (count == 11) continue;
-    check.marks[i].wrong = true;
-    check.lines.push_back("Errori Estrazione del " + rows[i].date);
-    ++errors;
-  }
-  if (errors == 0 && !rows.empty()) check.lines.emplace_back("Nessuna anomalia rilevata");
-  return check;
-}
-
 TEST(UpdateCheckRandom, AgreesWithThePlainOneOnMixturesOfLines) {
   TempFolder folder;
   std::mt19937 seedling(3);
@@ -158,7 +124,7 @@ TEST(UpdateCheckRandom, AgreesWithThePlainOneOnMixturesOfLines) {
     const std::string text = decodedText(randomUpdateBytes(rng, stored));
     const std::vector<DrawRow> rows = readUpdateText(text);
     ASSERT_TRUE(sameDraws(rows, plainUpdateRows(text)));
-    const UpdateCheck check = checkUpdate(archive, rows, BlankCell::Text), plain = plainCheck(rows, stored);
+    const UpdateCheck check = checkUpdate(archive, rows, BlankCell::Text), plain = plainUpdateCheck(rows, stored);
     EXPECT_EQ(check.marks, plain.marks);
     EXPECT_EQ(check.lines, plain.lines);
     EXPECT_EQ(check.stoppedAt, plain.stoppedAt);

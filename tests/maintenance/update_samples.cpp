@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/dates.h"
 #include "support/archive_builder.h"
 
 namespace trv5 {
@@ -98,6 +99,38 @@ std::vector<DrawRow> plainUpdateRows(const std::string& text) {
     if (!blank) rows.push_back(row);
   }
   return rows;
+}
+
+UpdateCheck plainUpdateCheck(const std::vector<DrawRow>& rows, const std::vector<DrawRow>& archive) {
+  UpdateCheck check;
+  check.marks.resize(rows.size());
+  int errors = 0;
+  for (std::size_t i = rows.size(); i-- > 0;) {
+    if (!dayOfText(rows[i].date)) {
+      check.stoppedAt = i;
+      return check;
+    }
+    const DrawRow* found = nullptr;
+    for (const DrawRow& draw : archive)
+      if (draw.date == rows[i].date) found = &draw;
+    if (found == nullptr) {
+      check.marks[i].missing = true;
+      check.lines.push_back("Manca estrazione del: " + rows[i].date);
+      continue;
+    }
+    int count = 0;
+    for (std::size_t wheel = 0; wheel < 11; ++wheel) {
+      if (found->wheels[wheel].empty() || found->wheels[wheel] != rows[i].wheels[wheel]) continue;
+      check.marks[i].agrees[wheel] = true;
+      ++count;
+    }
+    if (count == 11) continue;
+    check.marks[i].wrong = true;
+    check.lines.push_back("Errori Estrazione del " + rows[i].date);
+    ++errors;
+  }
+  if (errors == 0 && !rows.empty()) check.lines.emplace_back("Nessuna anomalia rilevata");
+  return check;
 }
 
 }  // namespace trv5

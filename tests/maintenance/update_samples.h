@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/archive.h"
+#include "maintenance/update_check.h"
 
 namespace trv5 {
 
@@ -20,5 +21,8 @@ std::string randomUpdateBytes(std::mt19937& rng, const std::vector<DrawRow>& sto
 
 /// What an update file in UTF-8 holds, read character by character.
 std::vector<DrawRow> plainUpdateRows(const std::string& text);
+
+/// The check row by row, field by field, as it is told. Empty wheels of the archive are NULL there.
+UpdateCheck plainUpdateCheck(const std::vector<DrawRow>& rows, const std::vector<DrawRow>& archive);
 
 }  // namespace trv5
