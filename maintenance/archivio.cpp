@@ -1,6 +1,7 @@
 #include "maintenance/archivio.h"
 
 #include "maintenance/entry_tab.h"
+#include "maintenance/formats_tab.h"
 #include "maintenance/update_tab.h"
 
 namespace trv5 {
@@ -9,10 +10,11 @@ Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivi
   connectEntry(*this);
   FgImporta.setEmptyText("Premi CONTROLLO AGGIORNAMENTI o AGGIORNA DA FILE");
   connectUpdateTab(*this);
+  connectFormatsTab(*this);
 }
 
 void Archivio::load() {
-  MostraServer(*this);
+  MostraImpostazioni(*this);
   ApreArchivio(*this);
 }
 
