@@ -130,6 +130,9 @@ void GridView::followGrid() {
   if (m_look.atEnd && m_lastRows != rows) scrollToBottom();
   if (m_scrollsAsked != m_grid.scrollsAsked()) {
     m_scrollsAsked = m_grid.scrollsAsked();
+    // Rows that have just come have no place yet.
+    executeDelayedItemsLayout();
+    updateGeometries();
     scrollTo(m_model->index(m_model->modelRow(m_grid.topRow()), std::max(0, columnAt(0))), PositionAtTop);
   }
   m_lastRows = rows;

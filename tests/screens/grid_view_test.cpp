@@ -34,6 +34,20 @@ TEST_F(GridViewTest, HidesTheRowsAndColumnsThatTheGridHides) {
   EXPECT_FALSE(view.isRowHidden(4));
 }
 
+TEST_F(GridViewTest, BringsTheRowAskedForIntoViewAlsoAmongRowsThatHaveJustCome) {
+  GridControl grid(world.form, "FgImporta", "a|b|c");
+  GridView view(grid);
+  shown(view, 300, 300);
+  {
+    const Grid::Batch batch(grid);
+    fill(grid, 200);
+    grid.scrollTo(grid.rows() - 1);
+  }
+  settle();
+  EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
+  EXPECT_GT(view.verticalScrollBar()->maximum(), 0);
+}
+
 TEST_F(GridViewTest, FoldsColumnsAwayWhileTheyAreEmptyAndLeavesTheGridAlone) {
   GridControl grid(world.form, "FgEv", "a|b|c");
   fill(grid, 3);
