@@ -59,9 +59,13 @@ QString filterOf(const FileBox& box) {
 
 void prepare(QFileDialog& dialog, const FileBox& box) {
   dialog.setWindowTitle(qs(box.title));
-  dialog.setDirectory(qs(box.folder.string()));
+  // What was saved last may stand for the folder in which it lies.
+  const QFileInfo start(qs(box.folder.string()));
+  const bool isFile = !start.isDir() && QFileInfo(start.path()).isDir();
+  dialog.setDirectory(isFile ? start.path() : start.filePath());
   dialog.setNameFilters(filterOf(box).split(QStringLiteral(";;")));
-  if (!box.name.empty()) dialog.selectFile(qs(box.name));
+  const QString name = !box.name.empty() ? qs(box.name) : isFile ? start.fileName() : QString();
+  if (!name.isEmpty()) dialog.selectFile(name);
   if (!box.defaultExtension.empty()) dialog.setDefaultSuffix(qs(box.defaultExtension));
 }
 
