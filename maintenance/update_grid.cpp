@@ -18,6 +18,7 @@ void fillUpdateGrid(const std::vector<DrawRow>& rows, Grid& FgImporta) {
       FgImporta.setText(at, kFirstWheel + wheel, row.wheels[static_cast<std::size_t>(wheel)]);
     ++at;
   }
+  FgImporta.scrollTo(FgImporta.rows() - 1);
   FgImporta.fitColumns();
 }
 
@@ -46,6 +47,12 @@ std::vector<DrawRow> updateRows(const Grid& FgImporta) {
       row.wheels[static_cast<std::size_t>(wheel)] = FgImporta.text(at, kFirstWheel + wheel);
   }
   return rows;
+}
+
+bool hasUpdateMarks(const Grid& FgImporta) {
+  for (int at = FgImporta.headingRows(); at < FgImporta.rows(); ++at)
+    if (const Cell& date = FgImporta.at(at, kDate); date.back == kMissingDraw || date.fore == kWrongDraw) return true;
+  return false;
 }
 
 std::vector<UpdateOrder> updateOrders(const Grid& FgImporta, bool correctWrongDraws) {

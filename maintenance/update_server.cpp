@@ -20,8 +20,8 @@ std::string hostOf(const Program& program, std::string_view parameter) {
 std::string addressOn(const Program& program, std::string_view parameter, std::string_view path) {
   const std::string host = hostOf(program, parameter);
   if (host.empty())
-    throw UserError("L'indirizzo del server non è impostato: si scrive nella scheda Salvataggi, alla voce " +
-                    std::string(parameter == kWebHost ? "Server web." : "Server FTP."));
+    throw UserError("L'indirizzo del server " + std::string(parameter == kWebHost ? "web" : "FTP") +
+                    " non è impostato: si scrive nella scheda Salvataggi, riquadro Impostazioni.");
   return host + std::string(path);
 }
 
@@ -46,7 +46,7 @@ std::string ftpCopyAddress(const Program& program) {
 
 std::string serverText(const Program& program) {
   return hostOf(program, kWebHost).empty()
-             ? "Il server degli aggiornamenti si imposta nella scheda Salvataggi, alla voce Server web."
+             ? "Il server web delle estrazioni si imposta nella scheda Salvataggi, riquadro Impostazioni."
              : "File degli aggiornamenti: " + webAddress(program);
 }
 

@@ -1,7 +1,9 @@
 #include "screens/archive/update_page.h"
 
 #include <QMenu>
+#include <QStyle>
 
+#include "maintenance/update_grid.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
 
@@ -50,11 +52,29 @@ QWidget* notes() {
        colourNote(Rosso,
                   "La data in rosso e lo sfondo di una ruota bianco identifica una estrazione  con errori in quella "
                   "ruota"),
-       note("CONTROLLO AGGIORNAMENTI scarica il file delle estrazioni e lo confronta con l'archivio. AGGIORNA DA FILE "
-            "confronta un file del disco."),
-       note("Nessuno dei due scrive nell'archivio: lo fa AGGIORNAMENTO, con le sole estrazioni segnate."),
-       note("Le estrazioni errate si correggono solo con la casella Corregge estrazioni errate."),
-       note("SCARICO FILE scarica il file senza confrontarlo.")}));
+       note("L'aggiornamento automatico non è un servizio garantito"),
+       note("Di norma, se non ci sono impedimenti, l'aggiornamento dovrebbe essere disponibile il giorno successivo "
+            "all'ultima estrazione"),
+       note("Inoltre la disponibilità non è immediata ma potrebbe richiedere qualche giorno dopo l'ultima estrazione "
+            "effettuata. "),
+       note("Il controllo viene effettuato nelle ultime 100 estrazioni. Per l'archivio completo contattare il "
+            "programmatore")}));
+}
+
+// Of the two stages the one that comes next is the primary button: a row that is marked waits for the second.
+void leadToNextStage(const Archivio& form, QPushButton& check, QPushButton& update, const GridView& rows) {
+  const auto lead = [&form, &check, &update] {
+    const bool marked = hasUpdateMarks(form.FgImporta);
+    dress(check, {.kind = marked ? ButtonKind::Secondary : ButtonKind::Primary, .icon = "download"});
+    dress(update, {.kind = marked ? ButtonKind::Primary : ButtonKind::Secondary, .icon = "save"});
+    for (QPushButton* const button : {&check, &update}) {
+      button->style()->unpolish(button);
+      button->style()->polish(button);
+    }
+  };
+  QObject::connect(rows.model(), &QAbstractItemModel::dataChanged, &update, lead);
+  QObject::connect(rows.model(), &QAbstractItemModel::rowsRemoved, &update, lead);
+  lead();
 }
 
 }  // namespace
@@ -63,13 +83,15 @@ QWidget* archiveUpdatePage(Archivio& form) {
   Kit kit(form);
   std::vector<QString> samples = {QString(), QStringLiteral("88/88/8888")};
   samples.resize(2 + kWheels, QStringLiteral("88-88-88-88-88"));
+  QPushButton* const check = kit.button("Command18", {.icon = "download", .mnemonic = 'T'});
+  QPushButton* const update = kit.button("Command28", {.icon = "save"});
   QLayout* const commands = row(
-      {kit.button("Command18", {.kind = ButtonKind::Primary, .icon = "download", .mnemonic = 'T'}),
-       kit.button("Command21", {.icon = "folder", .mnemonic = 'F'}), kit.button("Command27", {.icon = "download"}),
-       Piece::space(), kit.check("Check3"), kit.button("Command28", {.icon = "save"}), Piece::gap(),
+      {check, kit.button("Command21", {.icon = "folder", .mnemonic = 'F'}),
+       kit.button("Command27", {.icon = "download"}), Piece::space(), kit.check("Check3"), update, Piece::gap(),
        otherCommands(form), kit.button("Command23", {.kind = ButtonKind::Quiet, .icon = "help", .iconOnly = true})});
   GridView* const rows = kit.grid(
       "FgImporta", {.name = QStringLiteral("Estrazioni del file"), .samples = samples, .folded = {0}, .evenFrom = 2});
+  leadToNextStage(form, *check, *update, *rows);
   QLabel* const server = kit.label("Lbl_Server", Type::Small);
   server->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   QWidget* const found = holding(
