@@ -4,7 +4,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+
 #include "core/database_files.h"
+#include "maintenance/archivio_world.h"
 #include "maintenance/formats/exchange_files.h"
 #include "maintenance/formats/update_text.h"
 #include "maintenance/update_check.h"
@@ -23,6 +26,24 @@ const std::vector<DrawRow>& draws() {
     return made;
   }();
   return rows;
+}
+
+const std::string& historyText() {
+  static const std::string text = [] {
+    constexpr std::array<const char*, kWheels> kCodes = {"BA", "CA", "FI", "GE", "MI", "NA",
+                                                         "PA", "RM", "TO", "VE", "RN"};
+    std::string lines;
+    for (const DrawRow& row : draws())
+      for (std::size_t wheel = 0; wheel < kWheels; ++wheel) {
+        if (row.wheels[wheel].empty()) continue;
+        std::string numbers = row.wheels[wheel];
+        std::replace(numbers.begin(), numbers.end(), '-', '\t');
+        lines += row.date.substr(6) + "/" + row.date.substr(3, 2) + "/" + row.date.substr(0, 2) + "\t" + kCodes[wheel] +
+                 "\t" + numbers + "\n";
+      }
+    return lines;
+  }();
+  return text;
 }
 
 const std::string& updateText() {
@@ -50,6 +71,44 @@ void checking(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(checkUpdate(archive, rows, BlankCell::Text));
 }
 
+// AGGIORNA DA FILE and AGGIORNAMENTO as a user presses them, each with its grid; the second reads the archive again.
+void wholeUpdate(benchmark::State& state) {
+  ArchivioWorld world;
+  Archivio* archivio = nullptr;
+  for (auto _ : state) {
+    state.PauseTiming();
+    writeBytes(world.folder / "agg.txt", updateText());
+    archivio = &world.openOn({drawOf("01/01/1939", {})});
+    world.shell.answerFile(world.folder / "agg.txt");
+    archivio->Command21.press();
+    state.ResumeTiming();
+    archivio->Command28.press();
+  }
+  state.counters["draws"] = world.program->archive.NumEstrazioni();
+}
+
+void wholeCheck(benchmark::State& state) {
+  ArchivioWorld world;
+  Archivio& archivio = world.openOn(draws());
+  writeBytes(world.folder / "agg.txt", updateText());
+  for (auto _ : state) {
+    world.shell.answerFile(world.folder / "agg.txt");
+    archivio.Command21.press();
+  }
+  state.counters["rows"] = archivio.FgImporta.dataRows();
+}
+
+void historyComparison(benchmark::State& state) {
+  ArchivioWorld world;
+  Archivio& archivio = world.openOn(draws());
+  writeBytes(world.folder / "storico.txt", historyText());
+  for (auto _ : state) {
+    world.shell.answerFile(world.folder / "storico.txt");
+    archivio.Cmd_Storico.press();
+  }
+  state.counters["lines"] = static_cast<double>(archivio.List4.lines().size());
+}
+
 void writing(benchmark::State& state) {
   const TempFolder folder;
   const std::vector<UpdateOrder> orders(draws().size(), {.add = true});
@@ -71,6 +130,9 @@ void exchangeFile(benchmark::State& state) {
 
 BENCHMARK(reading)->Unit(benchmark::kMillisecond);
 BENCHMARK(checking)->Unit(benchmark::kMillisecond);
+BENCHMARK(wholeCheck)->Unit(benchmark::kMillisecond);
+BENCHMARK(historyComparison)->Unit(benchmark::kMillisecond);
+BENCHMARK(wholeUpdate)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(writing)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(exchangeFile<datiIii>)->Name("datiIii")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(exchangeFile<ruotafast>)->Name("ruotafast")->Unit(benchmark::kMillisecond)->UseRealTime();
