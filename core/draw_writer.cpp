@@ -32,8 +32,12 @@ DrawWriter::DrawWriter(Database& archive) : m_archive(archive), m_transaction(ar
   writeAllSums();
 }
 
-int DrawWriter::writeRow(const char* sql, const DrawRow& row, const Registration& registered, EmptyWheel empty) {
-  Statement statement = m_archive.prepare(sql);
+Statement& DrawWriter::ready(Kept& statement, const char* sql) {
+  if (!statement) statement.emplace(m_archive.prepare(sql));
+  return *statement;
+}
+
+int DrawWriter::writeRow(Statement& statement, const DrawRow& row, const Registration& registered, EmptyWheel empty) {
   statement.bind(1, isoOf(row.date));
   for (int wheel = 0; wheel < kWheels; ++wheel) {
     const std::string& text = row.wheels[static_cast<std::size_t>(wheel)];
@@ -44,7 +48,7 @@ int DrawWriter::writeRow(const char* sql, const DrawRow& row, const Registration
 }
 
 void DrawWriter::writeSum(const DrawRow& row) {
-  m_archive.prepare(kPutSum).bind(1, isoOf(row.date)).bind(2, sumOfDraw(row)).run();
+  ready(m_putSum, kPutSum).bind(1, isoOf(row.date)).bind(2, sumOfDraw(row)).run();
 }
 
 void DrawWriter::put(const DrawRow& row, const Registration& registered) {
@@ -59,19 +63,22 @@ void DrawWriter::add(const DrawRow& row, const Registration& registered, EmptyWh
   }
   // One more and the archive couldn't be loaded again.
   if (*m_draws >= Archive::kMaxDraws) throw UserError("L'archivio ha già 9999 estrazioni e non può averne altre.");
-  writeRow(kInsert, row, registered, empty);
+  writeRow(ready(m_insert, kInsert), row, registered, empty);
   writeSum(row);
   ++*m_draws;
 }
 
 bool DrawWriter::correct(const DrawRow& row, const Registration& registered, EmptyWheel empty) {
-  if (writeRow(kUpdate, row, registered, empty) == 0) return false;
+  if (writeRow(ready(m_update, kUpdate), row, registered, empty) == 0) return false;
   writeSum(row);
   return true;
 }
 
-bool DrawWriter::has(std::string_view date) const {
-  return m_archive.prepare("SELECT 1 FROM EstrazioniLotto WHERE DataEstrazione = ?").bind(1, isoOf(date)).step();
+bool DrawWriter::has(std::string_view date) {
+  Statement& seek = ready(m_seek, "SELECT 1 FROM EstrazioniLotto WHERE DataEstrazione = ?");
+  const bool there = seek.bind(1, isoOf(date)).step();
+  seek.reset();
+  return there;
 }
 
 bool DrawWriter::remove(std::string_view date) {

@@ -32,7 +32,7 @@ class DrawWriter {
   /// Overwrites the wheels of the draw of that date; false, and nothing is written, when there is none.
   [[nodiscard]] bool correct(const DrawRow& row, const Registration& registered, EmptyWheel empty = EmptyWheel::Null);
   /// True when the archive, as written so far, holds a draw of that date.
-  bool has(std::string_view date) const;
+  bool has(std::string_view date);
   /// Takes the draw of that date, "GG/MM/AAAA", out of the archive; false when there is none.
   bool remove(std::string_view date);
   /// Takes all draws as they stand: their sums are written anew.
@@ -40,11 +40,15 @@ class DrawWriter {
   void commit() { m_transaction.commit(); }
 
  private:
-  int writeRow(const char* sql, const DrawRow& row, const Registration& registered, EmptyWheel empty);
+  // Prepared at its first use: an update writes thousands of draws by the same statement.
+  using Kept = std::optional<Statement>;
+  Statement& ready(Kept& statement, const char* sql);
+  int writeRow(Statement& statement, const DrawRow& row, const Registration& registered, EmptyWheel empty);
   void writeSum(const DrawRow& row);
 
   Database& m_archive;
   Database::Transaction m_transaction;
+  Kept m_seek, m_insert, m_update, m_putSum;
   std::optional<int> m_draws;  // in the archive, once counted
 };
 
