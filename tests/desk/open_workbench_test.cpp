@@ -147,6 +147,27 @@ TEST_F(OpenWorkbench, VerifiedHitsStayAndEachWritingLeavesThemReadable) {
   pressAll();
 }
 
+TEST_F(OpenWorkbench, FollowsAnUpdateOfManyDrawsAtOnce) {
+  open(120);
+  listCases();
+  verify();
+  const auto line = [](const std::string& date) { return date + " 01-02-03-04-05" + std::string(151, ' ') + "pr\r\n"; };
+  std::string file;
+  for (int draw = 118; draw <= 120; ++draw) file += line(world.program->archive.DateEstrazioni(draw));
+  for (int day = 1; day <= 9; ++day) file += line("0" + std::to_string(day) + "/02/1938");
+  writeBytes(world.folder / "agg.txt", file);
+  world.shell.answerFile(world.folder / "agg.txt");
+  a->Command21.press();
+  a->Check3.set(true);
+  a->Command28.press();
+  EXPECT_EQ(world.shell.lastBox().text, "Dati salvati correttamente.");
+  EXPECT_EQ(world.program->archive.NumEstrazioni(), 129);
+  EXPECT_EQ(world.program->archive.NumeriEstratti(129, 0, 5), 5);
+  expectReference(120);
+  EXPECT_EQ(list->hs1.maximum(), 129);
+  pressAll();
+}
+
 TEST_F(OpenWorkbench, OutlivesTheDeletionOfAllDraws) {
   open(3);
   for (int left = 3; left > 0; --left) remove(left);
