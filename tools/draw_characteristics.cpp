@@ -73,7 +73,9 @@ void paintCross(Grid& Fg5, int row, int column) {
 
 }  // namespace
 
-DiDiSO::DiDiSO(Program& program) : DiDiSO(program.archive, program.shell) {}
+DiDiSO::DiDiSO(Program& program) : DiDiSO(program.archive, program.shell) {
+  keep(program.archiveReloaded.subscribe([this] { MostraEstrazione(*this); }));
+}
 
 DiDiSO::DiDiSO(const Archive& draws, Shell& shell)
     : Form(shell, "DiDiSO", "Caratteristiche estrazione"),
