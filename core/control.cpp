@@ -117,12 +117,17 @@ void Control::restore(const std::shared_ptr<const ControlState>& state) {
   m_state = state;
   m_stateAt = revision();
   if (!m_enabled) left();
-  if (m_listener) m_listener();
+  tellView();
 }
 
 void Control::changed() {
   ++m_revision;
-  if (m_listener) m_listener();
+  tellView();
+}
+
+void Control::tellView() {
+  m_toTell = m_form.m_still > 0;
+  if (!m_toTell && m_listener) m_listener();
 }
 
 }  // namespace trv5

@@ -88,10 +88,12 @@ class Control {
  private:
   friend class Form;
   void restore(const std::shared_ptr<const ControlState>& state);
+  void tellView();
 
   Form& m_form;
   std::string m_name;
   bool m_enabled = true, m_aside = false, m_partOfState = true;
+  bool m_toTell = false;  // a change that the view hears of when the form is no longer still
   std::optional<Rgb> m_back, m_fore;
   std::string m_toolTip;
   std::function<void()> m_event, m_doubleClick, m_enter, m_leave, m_listener, m_takeFocus;

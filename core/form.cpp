@@ -5,6 +5,7 @@
 
 #include "core/control.h"
 #include "core/errors.h"
+#include "core/grid_control.h"
 
 namespace trv5 {
 namespace {
@@ -64,6 +65,20 @@ void Form::restore(const FormState& state) {
   for (std::size_t i = 0; i < m_controls.size(); ++i)
     if (state.controls[i] != nullptr) m_controls[i]->restore(state.controls[i]);
   if (focused != nullptr && m_focused != focused && state.focused != nullptr) state.focused->focus();
+}
+
+Form::Still::Still(Form& form) : m_form(form) {
+  ++m_form.m_still;
+  for (Control* const control : m_form.m_controls)
+    if (auto* const grid = dynamic_cast<GridControl*>(control))
+      m_grids.push_back(std::make_unique<Grid::Batch>(grid->grid()));
+}
+
+Form::Still::~Still() {
+  m_grids.clear();
+  if (--m_form.m_still > 0) return;
+  for (Control* const control : m_form.m_controls)
+    if (control->m_toTell) control->tellView();
 }
 
 void Form::perform(const std::function<void()>& operation, const Control* source) {

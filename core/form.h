@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/control_state.h"
+#include "core/grid.h"
 #include "core/shell.h"
 #include "core/user_act.h"
 
@@ -55,6 +56,20 @@ class Form {
   /// Puts a state of this form back: no operation runs, each view that has something new to show is told once. The
   /// focus stays where it is; from a control that is disabled now it goes back to where it was then.
   void restore(const FormState& state);
+  /// As long as one lives, no view of the form hears of a change; at the end of the last each one that has something
+  /// new to show is told once. For an operation that runs many others, whose states are nothing to look at.
+  class Still {
+   public:
+    explicit Still(Form& form);
+    ~Still();
+    Still(const Still&) = delete;
+    Still& operator=(const Still&) = delete;
+
+   private:
+    Form& m_form;
+    std::vector<std::unique_ptr<Grid::Batch>> m_grids;
+  };
+
   /// Who follows the acts of the user; null for nobody.
   void setActListener(ActListener* listener) { m_acts = listener; }
   const ActListener* actListener() const { return m_acts; }
@@ -79,6 +94,7 @@ class Form {
   bool m_acting = false;     // an act is under way
   bool m_restoring = false;  // no operation runs
   std::vector<std::shared_ptr<void>> m_held;
+  int m_still = 0;           // how many keep the views from hearing
 };
 
 template <class Kind>
