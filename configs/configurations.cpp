@@ -79,17 +79,16 @@ void CancellaConfigurazione(Workbench& w) {
 
 void RicaricaConfigurazione(Workbench& w, int row) {
   if (row < 1 || row >= w.FgPir1.rows()) return;
-  if (ricaricaChiave(w, chiaveDellaRiga(w, row)))
-    w.shell().status(fmt::format("Configurazione ricaricata: {}", w.Txt_Denominazione.text()));
+  if (const auto reason = ricaricaChiave(w, chiaveDellaRiga(w, row))) return mostraMancataRicarica(w, *reason);
+  w.shell().status(fmt::format("Configurazione ricaricata: {}", w.Txt_Denominazione.text()));
 }
 
-bool ricaricaChiave(Workbench& w, std::int64_t key) {
+std::optional<std::string> ricaricaChiave(Workbench& w, std::int64_t key) {
   try {
     reload(w, key);
-    return true;
+    return {};
   } catch (const std::exception& error) {
-    w.shell().message({.text = "Errore imprevisto. ", .title = "Anomalia nel database", .reason = error.what()});
-    return false;
+    return error.what();
   }
 }
 
@@ -107,6 +106,10 @@ void disponeConfigurazione(Workbench& w, const std::vector<Field>& head, const s
                                                              {Table::Lunghetta, "Command51"}};
   for (const auto& [table, verifyAll] : verifications)
     if (w.formulas(table).hasData()) w.button(verifyAll).press();
+}
+
+void mostraMancataRicarica(Workbench& w, const std::string& reason) {
+  w.shell().message({.text = "Errore imprevisto. ", .title = "Anomalia nel database", .reason = reason});
 }
 
 std::int64_t chiaveDellaRiga(const Workbench& w, int row) {

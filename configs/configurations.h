@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "cases/workbench.h"
@@ -24,8 +26,11 @@ void CancellaConfigurazione(Workbench& w);
 /// out anew on the archive as it stands. An error leaves it as far as it got.
 void RicaricaConfigurazione(Workbench& w, int row);
 
-/// The same for a key, with the reload's message where it fails; false then.
-bool ricaricaChiave(Workbench& w, std::int64_t key);
+/// The same for a key; where it fails, why.
+std::optional<std::string> ricaricaChiave(Workbench& w, std::int64_t key);
+
+/// The message of a reload that failed for that reason.
+void mostraMancataRicarica(Workbench& w, const std::string& reason);
 
 /// Lays a configuration on the reset workbench and runs it: fields, the rows that `rows` reads once the fields stand,
 /// colours, detection, verifications. Throws UserError; the workbench stays as far as it got.
