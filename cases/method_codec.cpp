@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cases/formula_rows.h"
+#include "cases/result_states.h"
 #include "core/text.h"
 
 namespace trv5 {
@@ -59,6 +60,7 @@ void writeNumbersInPlay(Workbench& w, const std::vector<CaseNumbers>& cases) {
       w.Fg15.setText(row, table.numbersColumn, cell);
     }
   }
+  noteNumbersInPlay(w);
 }
 
 }  // namespace trv5

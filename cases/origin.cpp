@@ -81,6 +81,13 @@ Reason ofSummary(const Origin& then, const Origin& now) {
   return "Le sorti scelte sono cambiate";
 }
 
+Reason ofGrouping(const Origin& then, const Origin& now) {
+  if (then.configurations && now.configurations && *then.configurations != *now.configurations)
+    return "L'elenco delle configurazioni è cambiato";
+  if (differ(then.grouping, now.grouping)) return "Il raggruppamento è stato rifatto";
+  return {};
+}
+
 std::string elementText(const FormulaRow::Element& element) {
   const bool known = element.wheel >= 0 && element.wheel < kWheels;
   return fmt::format("{} {}", known ? CodiciRuote[static_cast<std::size_t>(element.wheel)] : "?", element.position);
@@ -99,6 +106,7 @@ std::optional<std::string> reasonOf(const Origin& then, const Origin& now) {
   for (Reason (*const part)(const Origin&, const Origin&) : {ofReference, ofSituation, ofPlay})
     if (Reason reason = part(then, now)) return reason;
   if (Reason reason = ofFormulas(then, now)) return reason;
+  if (Reason reason = ofGrouping(then, now)) return reason;
   return ofSummary(then, now);
 }
 

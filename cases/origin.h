@@ -30,6 +30,8 @@ struct Origin {
   ByTable<std::optional<std::vector<FormulaRow>>> formulas = {};
   std::optional<FormulaRow> tried = {};  ///< a row verified by itself
   std::optional<SummaryChoice> summary = {};
+  std::optional<std::vector<std::string>> configurations = {};  ///< the saved methods: key and name of each
+  std::optional<int> grouping = {};                             ///< which run of all saved methods, from 1
 
   bool operator==(const Origin&) const = default;
 };

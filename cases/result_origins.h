@@ -20,6 +20,8 @@ struct ResultOrigins {
   std::vector<int> counted;
   /// The search that filled `FgF`: section, shape, operator, cases, wheels.
   std::string ranking;
+  /// How often all saved methods have been run.
+  int groupings = 0;
 
   bool operator==(const ResultOrigins&) const = default;
 };

@@ -44,20 +44,34 @@ std::vector<FormulaRow> formulasOf(const Workbench& w, Table table) {
   return rows;
 }
 
+WheelSet greenWheels(const Workbench& w) {
+  WheelSet wheels = 0;
+  for (int wheel = 0; wheel < kWheels; ++wheel)
+    if (w.FgRG.back(0, wheel) == Verde) wheels |= 1U << wheel;
+  return wheels;
+}
+
+// The list of the saved methods as it is shown.
+std::vector<std::string> listedConfigurations(const Workbench& w) {
+  std::vector<std::string> listed;
+  for (int row = 1; row < w.FgPir1.rows(); ++row) listed.push_back(w.FgPir1.text(row, 1) + ' ' + w.FgPir1.text(row, 2));
+  return listed;
+}
+
 // What an operation would find chosen now.
 Origin chosenNow(const Workbench& w) {
   Origin now;
   now.situation = chosenSituation(w);
   now.cases = caseDraws(w);
-  now.wheels = WheelSet{0};
-  for (int wheel = 0; wheel < kWheels; ++wheel)
-    if (w.FgRG.back(0, wheel) == Verde) *now.wheels |= 1U << wheel;
+  now.wheels = greenWheels(w);
   now.colpi = w.ComboColpi.number();
   now.reference = w.EstrazioneRiferimento;
   now.archiveEnd = w.archive.UltimaEstrazione();
   now.sorte = w.ComboSorte.number();
   for (const TableTraits& table : kTables) now.formulas[indexOf(table.table)] = formulasOf(w, table.table);
   now.summary = {w.ChA.checked(), w.ChB.checked(), w.ChC.checked(), w.Ch1esito.checked()};
+  now.configurations = listedConfigurations(w);
+  now.grouping = w.origins.groupings;
   return now;
 }
 
@@ -140,6 +154,10 @@ constexpr ResultRow kResults[] = {
     {"FgZ0", hasRows, noReason},
     {"Fg_Stat", hasSection, summaryReason},
     {"FgZZ", hasRows, summaryReason},
+    {"FgIC", hasRows, noReason},
+    {"FgRagg", hasRows, noReason},
+    {"FgConv", hasRows, noReason},
+    {"FgRit", hasRows, noReason},
 };
 
 std::string labelOf(const ResultRow& row) {
@@ -239,6 +257,56 @@ void noteSummary(Workbench& w) {
   own.summary = choice;
   from.push_back(std::move(own));
   setSources(w, w.FgZZ, std::move(from));
+}
+
+void noteNumbersInPlay(Workbench& w) {
+  Origin origin = casesOrigin(w);
+  origin.colpi = w.Colpi;
+  origin.reference = w.EstrazioneRiferimento;
+  for (const TableTraits& table : kTables) origin.formulas[indexOf(table.table)] = formulasOf(w, table.table);
+  setSources(w, w.Fg15, {origin});
+}
+
+void noteForecasts(Workbench& w) {
+  Origin own = casesOrigin(w);
+  own.wheels = greenWheels(w);
+  own.colpi = w.Colpi;
+  own.reference = w.EstrazioneRiferimento;
+  if (w.Fg00.hasData()) own.sorte = w.ComboSorte.number();
+  Sources from = sourcesOf(w, w.Fg15.name());
+  from.push_back(std::move(own));
+  setSources(w, w.FgIC, std::move(from));
+}
+
+void noteAddedHits(Workbench& w) {
+  addTo(w.origins.made[w.FgZ1.name()], {verificationOrigin(w, Table::Ambate, true)});
+}
+
+void noteGrouping(Workbench& w) {
+  ++w.origins.groupings;
+  Origin origin;
+  origin.archiveEnd = w.archive.UltimaEstrazione();
+  origin.configurations = listedConfigurations(w);
+  setSources(w, w.FgRagg, {origin});
+}
+
+void noteConvergences(Workbench& w) {
+  Sources from = sourcesOf(w, w.FgRagg.name());
+  Origin own;
+  own.grouping = w.origins.groupings;
+  from.push_back(own);
+  setSources(w, w.FgConv, std::move(from));
+}
+
+void noteDelays(Workbench& w, bool ofCases) {
+  Origin origin;
+  if (ofCases) {
+    origin = casesOrigin(w);
+    origin.colpi = w.Colpi;
+  }
+  origin.wheels = greenWheels(w);
+  origin.reference = w.EstrazioneRiferimento;
+  setSources(w, w.FgRit, {origin});
 }
 
 void MostraStati(Workbench& w) {

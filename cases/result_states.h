@@ -31,6 +31,22 @@ void noteStatistics(Workbench& w, const GridControl& from);
 /// After the hits of the chosen tables have been joined in `FgZZ`.
 void noteSummary(Workbench& w);
 
+/// After `Fg15` and `NumeriInGioco` have been worked out; the open cases are marked together with it.
+void noteNumbersInPlay(Workbench& w);
+
+/// After the live forecasts have been listed from `Fg15`.
+void noteForecasts(Workbench& w);
+
+/// After hits up to the end of the archive have been added below those of `FgZ1`.
+void noteAddedHits(Workbench& w);
+
+/// After all saved methods have been run into `FgRagg`, and after `FgConv` has counted that.
+void noteGrouping(Workbench& w);
+void noteConvergences(Workbench& w);
+
+/// After `FgRit` has been filled; `ofCases`: from what was drawn after the cases.
+void noteDelays(Workbench& w, bool ofCases);
+
 /// What the hits of a verification of that table would be made from now.
 Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit = false);
 

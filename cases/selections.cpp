@@ -127,7 +127,6 @@ void tellEmptyGrids(Workbench& w) {
   for (GridControl* hits : {&w.FgZ1, &w.FgZ2, &w.FgZ3, &w.FgZ0})
     hits->setEmptyText("Nessuna verifica: premi Verifica tutte le righe");
   w.FgZZ.setEmptyText("Scegli le sorti e premi RIEPILOGO");
-  w.FgIC.setEmptyText("Premi Elenco previsioni in corso");
   w.Fg15.setEmptyText("Compare dopo una verifica");
   w.FgGioco.setEmptyText("Fai clic su un caso a sinistra");
   w.FgRagg.setEmptyText("Premi Esegue procedura");
@@ -137,6 +136,7 @@ void tellEmptyGrids(Workbench& w) {
 }
 
 void emptyResults(Workbench& w) {
+  w.FgIC.setEmptyText("Premi Elenco previsioni in corso");
   for (Grid* grid : {&w.FgF.grid(), &w.Fg11.grid(), &w.Fg22.grid(), &w.Fg33.grid(), &w.Fg00.grid(), &w.FgZ0.grid(),
                      &w.FgZ1.grid(), &w.FgZ2.grid(), &w.FgZ3.grid(), &w.FgZZ.grid(), &w.FgRit.grid(), &w.FgEv.grid(),
                      &w.Fg15.grid(), &w.FgGioco.grid(), &w.FgIC.grid()})

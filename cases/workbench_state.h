@@ -52,8 +52,10 @@ struct WorkbenchState {
   int CasiInCorso = 0;                 ///< cases with fewer than `Colpi` draws after them
   /// Numbers in play by [case + offset of the kind][number]: ambate 0, ambi 50, terni 100, lunghette 250.
   std::vector<NumberFlags> NumeriInGioco = std::vector<NumberFlags>(301);
-  CaseFlags CasiEsclusi{};               ///< cases that the verifications behind CC skip
-  CaseFlags CasiVerificati{};            ///< cases that the last verification behind CC hit; unread
+  CaseFlags CasiEsclusi{};     ///< cases that the verifications behind CC skip
+  CaseFlags CasiVerificati{};  ///< cases that the last verification behind CC hit; unread
+  /// The sorte 1..3 that `FgConv` counts, 0 before the first count: its tooltips look behind the counts.
+  int SorteConvergenze = 0;
   CaseFlags CasiCoperti{}, CasiQuasi{};  ///< lunghetta: covered cases, and those one number short of the sorte
 
   bool operator==(const WorkbenchState&) const = default;
