@@ -9,6 +9,9 @@
 #include "desk/workbench_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
+#include "followup/case_forecasts.h"
+#include "followup/grouping.h"
+#include "followup/information.h"
 #include "maintenance/mini_list.h"
 
 namespace trv5 {
@@ -39,6 +42,8 @@ void connectLists(Workbench& w) {
     for (const auto& [code, button] : w.Cmd_LaSorte)
       if (button->enabled()) button->press();
   });
+  w.Fg15.onCellClick([&w](int row, int) { MostraPrevisioniDelCaso(w, row); });
+  w.FgRagg.onCellClick([&w](int row, int) { MostraNomeConfigurazione(w, row); });
   w.FgPir1.onCellDoubleClick([&w](int row, int) { RicaricaConfigurazione(w, row); });
   w.Txt_FiltroConfig.onEvent([&w] { FiltraConfigurazioni(w); });
 }
@@ -50,6 +55,7 @@ void equipWorkbench(Workbench& w) {
   fillHooks(w);
   connectSelections(w);
   connectLists(w);
+  connectInformation(w);
   connectUndo(w);
   connectResultStates(w);
 }

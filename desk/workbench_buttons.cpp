@@ -19,6 +19,10 @@
 #include "engine/summary.h"
 #include "engine/table_tools.h"
 #include "engine/verification.h"
+#include "followup/case_forecasts.h"
+#include "followup/grouping.h"
+#include "followup/information.h"
+#include "followup/live_forecasts.h"
 
 namespace trv5 {
 namespace {
@@ -185,39 +189,42 @@ constexpr WorkbenchButton kLunghetta[] = {
 };
 
 constexpr WorkbenchButton kPrevisioniInCorso[] = {
-    {"Command35", "Elenco previsioni in corso", "", nullptr},
-    {"Command102", "Verifica oltre limite", "", nullptr},
-    {"Command50", "1", "Filtra ambate", nullptr},
-    {"Command55", "2", "Filtra ambi", nullptr},
-    {"Command60", "3", "Filtra terni", nullptr},
-    {"Command61", "L", "Filtra lunghette", nullptr},
-    {"Command62", "Filtra selezionati", "", nullptr},
-    {"Command38", "Stampa", "", nullptr},
-    {"Command93", "Copia tabella", "", nullptr},
+    {"Command35", "Elenco previsioni in corso", "Elenca le previsioni dei casi in corso", run<ElencaPrevisioniInCorso>},
+    {"Command102", "Verifica oltre limite", "Mostra quali previsioni sono uscite oltre l'estrazione di riferimento",
+     run<VerificaPrevisioniOltreLimite>},
+    {"Command50", "1", "Filtra ambate", run<FiltraPrevisioni, '1'>},
+    {"Command55", "2", "Filtra ambi", run<FiltraPrevisioni, '2'>},
+    {"Command60", "3", "Filtra terni", run<FiltraPrevisioni, '3'>},
+    {"Command61", "L", "Filtra lunghette", run<FiltraPrevisioni, 'L'>},
+    {"Command62", "Filtra selezionati", "Mostra solo le sorti spuntate", run<FiltraPrevisioniSelezionate>},
+    {"Command38", "Stampa", "", run<StampaPrevisioni>},
+    {"Command93", "Copia tabella", "", onGrid<CopiaTabella, &Workbench::FgIC>},
 };
 
 constexpr WorkbenchButton kNumeriInGioco[] = {
-    {"Command63", "Evidenzia se previsioni in corso", "", nullptr},
+    {"Command63", "Evidenzia se previsioni in corso", "Segna i casi ancora in corso", run<EvidenziaCasiInCorso>},
 };
 
 constexpr WorkbenchButton kRaggruppamento[] = {
-    {"Command106", "Esegue procedura", "", nullptr},
-    {"Command109", "Stampa", "", nullptr},
-    {"Command110", "Copia tabella", "", nullptr},
-    {"Command114", "AMBATE", "", nullptr},
-    {"Command115", "AMBO", "", nullptr},
-    {"Command116", "TERNO", "", nullptr},
+    {"Command106", "Esegue procedura", "Riesegue tutte le configurazioni salvate e ne raccoglie le previsioni",
+     run<EseguiProcedura>},
+    {"Command109", "Stampa", "", onGrid<StampaTabella, &Workbench::FgRagg>},
+    {"Command110", "Copia tabella", "", onGrid<CopiaTabella, &Workbench::FgRagg>},
+    {"Command114", "AMBATE", "Conta le ambate per numero e ruota", run<ContaConvergenze, 1>},
+    {"Command115", "AMBO", "Conta i numeri degli ambi per numero e ruota", run<ContaConvergenze, 2>},
+    {"Command116", "TERNO", "Conta i numeri dei terni per numero e ruota", run<ContaConvergenze, 3>},
 };
 
 constexpr WorkbenchButton kInformazioni[] = {
-    {"Command9", "RITARDI", "", nullptr},
-    {"Command88", "PRESENZE", "", nullptr},
-    {"Command76", "PRESENZE NEI COLPI DI GIOCO", "", nullptr},
-    {"Command111", "Ricerca su 2 ruote", "", nullptr},
-    {"Command112", "Ricerca su 3 ruote", "", nullptr},
-    {"Command113", "Ricerca su 4 ruote", "", nullptr},
-    {"Command104", "Filtra selezionati", "", nullptr},
-    {"Command89", "Copia tabella", "", nullptr},
+    {"Command9", "RITARDI", "Da quante estrazioni manca ogni numero, ruota per ruota", run<CalcolaRitardi>},
+    {"Command88", "PRESENZE", "Quante volte è uscito ogni numero nelle ultime estrazioni", run<CalcolaPresenze>},
+    {"Command76", "PRESENZE NEI COLPI DI GIOCO", "Quante volte è uscito ogni numero nei colpi dei casi",
+     run<CalcolaPresenzeNeiColpi>},
+    {"Command111", "Ricerca su 2 ruote", "Segna i ritardi che distano Delta su 2 ruote", run<CercaRitardiVicini, 2>},
+    {"Command112", "Ricerca su 3 ruote", "Segna i ritardi che distano Delta su 3 ruote", run<CercaRitardiVicini, 3>},
+    {"Command113", "Ricerca su 4 ruote", "Segna i ritardi che distano Delta su 4 ruote", run<CercaRitardiVicini, 4>},
+    {"Command104", "Filtra selezionati", "Mostra solo i numeri in gioco nel caso scelto", run<FiltraNumeriInGioco>},
+    {"Command89", "Copia tabella", "", onGrid<CopiaTabella, &Workbench::FgRit>},
 };
 
 constexpr WorkbenchButton kConfigurazioni[] = {
@@ -229,7 +236,7 @@ constexpr WorkbenchButton kConfigurazioni[] = {
 };
 
 constexpr WorkbenchButton kCalledByOtherButtonsAlone[] = {
-    {"Command117", "Command117", "", nullptr},
+    {"Command117", "Command117", "", run<MostraSfaldamenti>},
     {"Command94", "Verifica per CC", "", run<verificaPerCc, Table::Ambi>},
     {"Command95", "Verifica per CC", "", run<verificaPerCc, Table::Terni>},
     {"Command69", "Verifica per CC", "", run<verificaPerCc, Table::Lunghetta>},
