@@ -1,5 +1,8 @@
 #include "screens/workbench/tabs.h"
 
+#include <numeric>
+
+#include "followup/grouping.h"
 #include "screens/kit/icons.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/scroll_column.h"
@@ -62,13 +65,19 @@ QWidget* liveForecastsTab(Workbench& w) {
                                 kit.joined({"Command50", "Command55", "Command60", "Command61"}, false)};
   for (const char* const name : {"Ch_FF_1", "Ch_FF_2", "Ch_FF_3", "Ch_FF_0"}) filters.emplace_back(kit.check(name));
   filters.emplace_back(kit.button("Command62", {.icon = "filter"}));
-  return pageOf(
-      {flow({kit.button("Command35", {.kind = ButtonKind::Primary}), kit.button("Command102"), group(filters),
-             quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
-       {kit.grid("FgIC", {.name = QStringLiteral("Previsioni in corso"),
-                          .samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), kNumber}, 10, kNumber,
-                                              {QStringLiteral("88/88/8888"), QStringLiteral("MI MI MI MI MI")})}),
-        1}});
+  StateMark* const state = kit.stateMark("FgIC");
+  state->takeRest();
+  std::vector<int> numbers(10);
+  std::iota(numbers.begin(), numbers.end(), 3);
+  GridView* const live =
+      kit.grid("FgIC", {.name = QStringLiteral("Previsioni in corso"),
+                        .samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), QStringLiteral("88/88")}, 10,
+                                            kNumber, {QStringLiteral("88/88/8888"), QStringLiteral("MI-MI-MI-MI-MI")}),
+                        .alike = numbers});
+  return pageOf({flow({kit.button("Command35", {.kind = ButtonKind::Primary, .icon = "play"}), kit.button("Command102"),
+                       group(filters)},
+                      {state, quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
+                 {live, 1}});
 }
 
 QWidget* numbersInPlayTab(Workbench& w) {
@@ -95,21 +104,26 @@ QWidget* groupingTab(Workbench& w, PagePair*& sheets) {
                                         kNumber},
                                        10, kNumber);
   list = repeated(list, kWheels, QStringLiteral("M"));
-  GridView* const found =
-      kit.grid("FgRagg", {.name = QStringLiteral("Raggruppamento"), .samples = list, .tight = true});
+  GridView* const found = kit.grid(
+      "FgRagg", {.name = QStringLiteral("Raggruppamento"), .samples = list, .heavyAfter = {6, 16}, .tight = true});
   QWidget* const first =
       pageOf({{found, 1}, flow({quiet(kit, "Command109", "print"), quiet(kit, "Command110", "copy")})});
-  GridView* const counts =
-      kit.grid("FgConv", {.name = QStringLiteral("Convergenze"), .samples = repeated({kNumber}, kWheels, kNumber)});
-  QWidget* const second =
-      pageOf({row({kit.joined({"Command114", "Command115", "Command116"}, false), Piece::gap()}), {counts, 1}});
+  GridView* const counts = kit.grid(
+      "FgConv", {.name = QStringLiteral("Convergenze"),
+                 .samples = repeated({kNumber}, kWheels, kNumber),
+                 .even = true,
+                 .evenFrom = 1,
+                 .toolTip = [&w](int gridRow, int column) { return qs(spiegaConvergenza(w, gridRow, column)); }});
+  QWidget* const second = pageOf(
+      {row({kit.joined({"Command114", "Command115", "Command116"}, false), Piece::gap(), kit.stateMark("FgConv")}),
+       {counts, 1}});
   first->setFocusProxy(found);
   second->setFocusProxy(counts);
   sheets = new PagePair(w.SSTab4, {first, second}, false);
   return pageOf({row({kit.button("Command106", {.kind = ButtonKind::Primary, .icon = "play"}),
                       Kit::text(QStringLiteral("Le configurazioni di tipo Ciclo, senza durata fissa, restano escluse"),
                                 Type::Small),
-                      Piece::gap(), kit.label("Label7", Type::Title)}),
+                      Piece::gap(), kit.stateMark("FgRagg"), kit.label("Label7", Type::Title)}),
                  {sheets, 1}});
 }
 
@@ -119,14 +133,16 @@ QWidget* informationTab(Workbench& w) {
   for (const char* const name : {"OptionRit_0", "OptionRit_1", "OptionRit_2"}) spans.emplace_back(kit.option(name));
   spans.emplace_back(kit.button("Command88"));
   QWidget* const commands =
-      pageOf({row({kit.button("Command9", {.kind = ButtonKind::Primary}), Piece::gap()}), flow({group(spans)}),
-              flow({kit.button("Command76"), kit.check("Ch_coperture")}),
+      pageOf({row({kit.button("Command9", {.kind = ButtonKind::Primary}), Piece::gap(), kit.stateMark("FgRit")}),
+              flow({group(spans)}), flow({kit.button("Command76"), kit.check("Ch_coperture")}),
               flow({Kit::captioned(QStringLiteral("Delta"), kit.combo("ComboDelta", QStringLiteral("8"))),
                     kit.button("Command111"), kit.button("Command112"), kit.button("Command113")}),
               flow({kit.button("Command104", {.icon = "filter"}), quiet(kit, "Command89", "copy")}), Piece::gap()});
   GridView* const values =
       kit.grid("FgRit", {.name = QStringLiteral("Ritardi e presenze"),
-                         .samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")})});
+                         .samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")}),
+                         .even = true,
+                         .evenFrom = 1});
   return holding(row({narrow(new ScrollColumn(commands), 42), Piece::space(), {values, 1}}));
 }
 
