@@ -67,7 +67,10 @@ std::string Console::cell(const Arguments& line) {
     throw LineError("la cella non esiste: " + std::to_string(row) + ", " + std::to_string(column));
   const std::string what = textArgument(line, 5);
   if (what != "click" && what != "dblclick") throw LineError("azione sconosciuta: " + what);
-  if (row < grid->headingRows()) return {};  // on screen a click on the heading does nothing
+  if (row < grid->headingRows()) {
+    if (what == "click") grid->clickHeading();
+    return {};
+  }
   auto* const view = qobject_cast<GridView*>(found.widget);
   if (what == "click")
     view != nullptr ? view->clickCell(row, column) : grid->clickCell(row, column);

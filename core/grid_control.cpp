@@ -30,6 +30,12 @@ void GridControl::clickCell(int row, int column) {
   act->setMoves(cellsRevision() == cells);
 }
 
+void GridControl::clickHeading() {
+  if (!m_headingClick) return;
+  const UserAct act(form(), this);
+  form().perform(m_headingClick, this);
+}
+
 void GridControl::doubleClickCell(int row, int column) {
   std::optional<UserAct> act;
   if (m_cellDoubleClick) act.emplace(form(), this);

@@ -22,6 +22,8 @@ class GridControl : public Control, public Grid {
   const Grid& grid() const { return *this; }
 
   void onCellClick(std::function<void(int row, int column)> operation) { m_click = std::move(operation); }
+  /// On a heading row a click does nothing, unless it has an operation of its own.
+  void onHeadingClick(std::function<void()> operation) { m_headingClick = std::move(operation); }
   void onCellDoubleClick(std::function<void(int row, int column)> operation) {
     m_cellDoubleClick = std::move(operation);
   }
@@ -33,6 +35,7 @@ class GridControl : public Control, public Grid {
 
   /// The user's click: makes the cell current (a heading row never), then runs the operation.
   void clickCell(int row, int column);
+  void clickHeading();
   void doubleClickCell(int row, int column);
   /// Writes an editable cell. False when the cell isn't editable or the text isn't one of its choices.
   bool edit(int row, int column, const std::string& text);
@@ -54,6 +57,7 @@ class GridControl : public Control, public Grid {
 
  private:
   std::function<void(int, int)> m_click, m_cellDoubleClick;
+  std::function<void()> m_headingClick;
   std::string m_emptyText;
 };
 

@@ -43,6 +43,7 @@ void connectLists(Workbench& w) {
       if (button->enabled()) button->press();
   });
   w.Fg15.onCellClick([&w](int row, int) { MostraPrevisioniDelCaso(w, row); });
+  w.Fg15.onHeadingClick([&w] { MostraPrevisioniDelCaso(w, 0); });
   w.FgRagg.onCellClick([&w](int row, int) { MostraNomeConfigurazione(w, row); });
   w.FgPir1.onCellDoubleClick([&w](int row, int) { RicaricaConfigurazione(w, row); });
   w.Txt_FiltroConfig.onEvent([&w] { FiltraConfigurazioni(w); });

@@ -1,6 +1,8 @@
 #include "screens/kit/grid_delegate.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -107,6 +109,18 @@ void GridHeading::paintSection(QPainter* painter, const QRect& rect, int logical
   const QString text = model()->headerData(logicalIndex, Qt::Horizontal).toString();
   painter->drawText(inside, Qt::AlignCenter | Qt::TextSingleLine,
                     QFontMetrics(m_view.headingFont()).elidedText(text, Qt::ElideRight, inside.width()));
+}
+
+void GridHeading::mousePressEvent(QMouseEvent* event) {
+  m_pressed = event->pos();
+  QHeaderView::mousePressEvent(event);
+}
+
+// Qt's own click of a section would select the column.
+void GridHeading::mouseReleaseEvent(QMouseEvent* event) {
+  QHeaderView::mouseReleaseEvent(event);
+  const bool dragged = (event->pos() - m_pressed).manhattanLength() >= QApplication::startDragDistance();
+  if (event->button() == Qt::LeftButton && !dragged) m_view.clickHeading();
 }
 
 void GridHeading::paintEvent(QPaintEvent* event) {

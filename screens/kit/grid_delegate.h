@@ -35,11 +35,14 @@ class GridHeading : public QHeaderView {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   bool sparse() const;
 
   GridView& m_view;
+  QPoint m_pressed;
 };
 
 }  // namespace trv5

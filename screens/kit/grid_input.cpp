@@ -9,6 +9,10 @@ void GridView::clickCell(int row, int column) {
   m_grid.clickCell(row, column);
 }
 
+void GridView::clickHeading() {
+  m_grid.clickHeading();
+}
+
 void GridView::doubleClickCell(int row, int column) {
   m_grid.doubleClickCell(row, column);
 }

@@ -59,6 +59,7 @@ class GridView : public QTableView {
 
   /// What the user's mouse does, without the mouse: rows count as in the grid, heading included.
   void clickCell(int row, int column);
+  void clickHeading();
   void doubleClickCell(int row, int column);
 
   /// Text and HTML table of the chosen cells (the current one when none is chosen) onto the clipboard.

@@ -230,7 +230,7 @@ TEST_F(LiveForecasts, OfTheCaseClickedStandInTheirOwnGrid) {
 TEST_F(LiveForecasts, OfAClickOnTheHeadingAreNone) {
   everyKind();
   w.Fg15.clickCell(1, 1);
-  w.Fg15.clickCell(0, 1);
+  w.Fg15.clickHeading();
   EXPECT_FALSE(w.FgGioco.hasData());
   EXPECT_FALSE(w.FgS1.hasData());
   EXPECT_EQ(w.Fg15.current(), 1);

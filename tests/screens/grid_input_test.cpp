@@ -24,6 +24,25 @@ TEST_F(GridInputTest, AClickMakesTheCellCurrentAndRunsTheOperation) {
   EXPECT_EQ(grid.currentColumn(), 2);
 }
 
+TEST_F(GridInputTest, AClickOnTheHeadingIsAnOperationOfItsOwn) {
+  GridControl grid(world.form, "Fg15", "a|b|c");
+  fill(grid, 10);
+  int cells = 0, headings = 0;
+  grid.onCellClick([&](int, int) { ++cells; });
+  grid.onHeadingClick([&] { ++headings; });
+  GridView view(grid);
+  shown(view, 300, 300);
+  press(view, 3, 2);
+  const QPoint middle(view.columnWidth(0) / 2, view.horizontalHeader()->height() / 2);
+  QTest::mouseClick(view.horizontalHeader()->viewport(), Qt::LeftButton, {}, middle);
+  EXPECT_EQ(headings, 1);
+  EXPECT_EQ(cells, 1);
+  EXPECT_EQ(grid.current(), 3);
+  QTest::mousePress(view.horizontalHeader()->viewport(), Qt::LeftButton, {}, middle);
+  QTest::mouseRelease(view.horizontalHeader()->viewport(), Qt::LeftButton, {}, middle + QPoint(80, 0));
+  EXPECT_EQ(headings, 1) << "a drag is no click";
+}
+
 TEST_F(GridInputTest, ADoubleClickIsOneClickAndOneDoubleClick) {
   GridControl grid(world.form, "FgF", "a|b");
   fill(grid, 5);
