@@ -161,7 +161,7 @@ TEST_F(Grouping, ShowsNothingOfTheConfigurationsOnTheWay) {
   EXPECT_EQ(cases, 1);
 }
 
-TEST_F(Grouping, TakesWheelsOfPlayByTheirColourAlone) {
+TEST_F(Grouping, CountsOnTheWheelsThatBearAnX) {
   save("Alfa", 77);
   run();
   w().FgRagg.setText(1, 17, "");

@@ -84,6 +84,13 @@ void PlainWorkbench::oltreLimite(int kind) {
   verify(kind, Mode::BeyondLimit);
 }
 
+void PlainWorkbench::proseguiCasiAperti() {
+  for (int i = 1; i < FgEv.rows(); ++i)
+    if (FgEv.back(i, 1) == 0x00FFFF && numbersOfCase(kindOf(1), i, archive.UltimaEstrazione()) == 0)
+      appendMiss(FgZ1, i);
+  closeBeyondLimit(kindOf(1));
+}
+
 void PlainWorkbench::verify(int code, Mode mode) {
   const Kind kind = kindOf(code);
   if (kind.formulas.rows() < 2) return;

@@ -20,6 +20,7 @@ class PlainWorkbench : public WorkbenchSnapshot {
   void tutteLeRighe(int kind);  ///< kind 1, 2, 3, 6
   void perCc(int kind);         ///< kind 2, 3, 6
   void oltreLimite(int kind);
+  void proseguiCasiAperti();  ///< of oltreLimite(1) the walk over the open cases and what follows it
   void Cmd_LaSorte(int kind);
   void CC(int kind);  ///< kind 2, 3, 6
   void Cmd_Elabora100();
