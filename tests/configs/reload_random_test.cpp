@@ -11,35 +11,6 @@
 namespace trv5 {
 namespace {
 
-// Any value in every control that the user can set, typed ones among those of the editable lists.
-void disturb(Workbench& w, std::mt19937& rng) {
-  w.hs1.set(1 + below(rng, w.archive.UltimaEstrazione()));
-  for (Control* const control : w.controls()) {
-    if (control == &w.hs1) continue;
-    if (auto* const combo = dynamic_cast<Combo*>(control)) {
-      if (combo->editable() && below(rng, 4) == 0)
-        combo->type(std::to_string(below(rng, 130)));
-      else if (!combo->items().empty())
-        combo->pick(below(rng, combo->items().size()));
-    } else if (auto* const check = dynamic_cast<Check*>(control)) {
-      check->set(below(rng, 2) == 0);
-    }
-  }
-  if (below(rng, 2) == 0) {  // a kind that most archives have cases of
-    w.ComboFiltro.pick(0);
-    w.Ch_analisi2ruote.set(false);
-  }
-  w.TxtNumeri.set(below(rng, 2) == 0 ? "" : std::to_string(1 + below(rng, 90)) + "-07-90");
-  for (const auto& [position, label] : w.LblPN)
-    if (below(rng, 2) == 0) label->click();
-  for (GridControl* const wheels : {&w.FgRG, &w.FgRR})
-    for (int wheel = 0; wheel < kWheels; ++wheel)
-      if (below(rng, 2) == 0) wheels->clickCell(0, wheel);
-  for (const Table table : {Table::Ambate, Table::Ambi, Table::Terni, Table::Lunghetta})
-    fillTable(w.formulas(table), rng, below(rng, table == Table::Lunghetta ? 12 : 6));
-  w.SSTab3.set(below(rng, 5));
-}
-
 // What the store keeps: columns 1 to 20 of the tables, and the controls of the fields.
 std::string kept(const Workbench& w) {
   std::string text =
@@ -103,12 +74,12 @@ TEST(ReloadRandom, BringsEveryStoredControlAndCellBackAndTheHitsOfAFreshRun) {
   });
   for (int run = 0; run < runs; ++run) {
     SCOPED_TRACE("run " + std::to_string(run));
-    disturb(w, rng);
+    randomWorkbench(w, rng);
     ASSERT_TRUE(world.save("metodo " + std::to_string(run)));
     const std::string saved = kept(w);
     if (below(rng, 2) == 0) world.press("Command44");
     world.press("Command41");
-    disturb(w, rng);
+    randomWorkbench(w, rng);
     const std::size_t boxes = world.shell.shown.size();
     world.press("Cmd_Elenco");
     // What the reset clears is cleared, the other controls that aren't stored stay.

@@ -97,4 +97,32 @@ void randomMethod(WorkbenchWorld& world, std::mt19937& rng) {
   }
 }
 
+void randomWorkbench(Workbench& w, std::mt19937& rng) {
+  w.hs1.set(1 + below(rng, w.archive.UltimaEstrazione()));
+  for (Control* const control : w.controls()) {
+    if (control == &w.hs1) continue;
+    if (auto* const combo = dynamic_cast<Combo*>(control)) {
+      if (combo->editable() && below(rng, 4) == 0)
+        combo->type(std::to_string(below(rng, 130)));
+      else if (!combo->items().empty())
+        combo->pick(below(rng, combo->items().size()));
+    } else if (auto* const check = dynamic_cast<Check*>(control)) {
+      check->set(below(rng, 2) == 0);
+    }
+  }
+  if (below(rng, 2) == 0) {  // a kind that most archives have cases of
+    w.ComboFiltro.pick(0);
+    w.Ch_analisi2ruote.set(false);
+  }
+  w.TxtNumeri.set(below(rng, 2) == 0 ? "" : std::to_string(1 + below(rng, 90)) + "-07-90");
+  for (const auto& [position, label] : w.LblPN)
+    if (below(rng, 2) == 0) label->click();
+  for (GridControl* const wheels : {&w.FgRG, &w.FgRR})
+    for (int wheel = 0; wheel < kWheels; ++wheel)
+      if (below(rng, 2) == 0) wheels->clickCell(0, wheel);
+  for (const Table table : {Table::Ambate, Table::Ambi, Table::Terni, Table::Lunghetta})
+    fillTable(w.formulas(table), rng, below(rng, table == Table::Lunghetta ? 12 : 6));
+  w.SSTab3.set(below(rng, 5));
+}
+
 }  // namespace trv5

@@ -21,4 +21,7 @@ void fillTable(Grid& table, std::mt19937& rng, int rows, bool blanks = false);
 /// A case list of at most 50 cases on any draws, with marks as verifications leave them.
 void randomCases(WorkbenchWorld& world, std::mt19937& rng);
 
+/// Any value in every control that the user can set, typed ones among those of the editable lists, and random tables.
+void randomWorkbench(Workbench& w, std::mt19937& rng);
+
 }  // namespace trv5
