@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <initializer_list>
 #include <vector>
 
 #include "core/text.h"
@@ -335,16 +336,18 @@ void PlainFollowup::Command104() {
 
 void PlainFollowup::search(int wheels) {
   Command9();
-  const auto mark = [this](int n, std::vector<int> columns) {
+  std::array<int, 12> delay{};
+  const auto mark = [&](int n, std::initializer_list<int> columns) {
     int low = 100000, high = -1;
     for (const int c : columns) {
-      low = std::min(low, FgRit.number(n, c));
-      high = std::max(high, FgRit.number(n, c));
+      low = std::min(low, delay[static_cast<std::size_t>(c)]);
+      high = std::max(high, delay[static_cast<std::size_t>(c)]);
     }
     if (high - low != delta) return;
     for (const int c : columns) FgRit.setBack(n, c, 0xFFC080);
   };
-  for (int n = 1; n <= 90; ++n)
+  for (int n = 1; n <= 90; ++n) {
+    for (int c = 1; c <= 11; ++c) delay[static_cast<std::size_t>(c)] = FgRit.number(n, c);
     for (int c1 = 1; c1 <= 12 - wheels; ++c1)
       for (int c2 = c1 + 1; c2 <= 13 - wheels; ++c2) {
         if (wheels == 2) mark(n, {c1, c2});
@@ -353,6 +356,7 @@ void PlainFollowup::search(int wheels) {
           for (int c4 = c3 + 1; wheels > 3 && c4 <= 11; ++c4) mark(n, {c1, c2, c3, c4});
         }
       }
+  }
 }
 
 }  // namespace trv5
