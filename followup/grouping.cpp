@@ -140,40 +140,48 @@ void showOutcomes(Workbench& w, Grid& out, const std::vector<Hits>& all) {
   out.setMerged({kKey, kDraw, kDate});
 }
 
+std::string placeInList(const Workbench& w, int row, std::string_view what) {
+  return fmt::format("Esegue procedura: configurazione {} di {}{}, {}", row, w.FgPir1.dataRows(), what,
+                     w.FgPir1.text(row, kName));
+}
+
+// Returns how many ran.
+int runAll(Workbench& w) {
+  constexpr int kCycle = 5;
+  const int kind = listColumn(w.FgPir1, "TipoRilevazione");
+  int run = 0;
+  for (int row = 1; row < w.FgPir1.rows(); ++row) {
+    w.shell().status(placeInList(w, row, ""));
+    w.shell().progress(row - 1, w.FgPir1.dataRows());
+    if (w.FgPir1.number(row, kind) == kCycle) {
+      leaveOut(w, row);
+    } else if (const auto reason = runConfiguration(w, row)) {
+      leaveOut(w, row);
+      w.shell().status(placeInList(w, row, " non ricaricata"));
+      mostraMancataRicarica(w, fmt::format("{}: {}", w.FgPir1.text(row, kName), *reason));
+    } else {
+      gather(w, row);
+      ++run;
+    }
+  }
+  return run;
+}
+
 }  // namespace
 
 void EseguiProcedura(Workbench& w) {
   if (!w.FgPir1.hasData()) return w.shell().status("Nessuna configurazione: premi ELENCO in Configurazioni");
   const Form::Still still(w);
-  const int kind = listColumn(w.FgPir1, "TipoRilevazione");
-  constexpr int kCycle = 5;
-  const int all = w.FgPir1.dataRows();
-  int run = 0;
   w.FgRagg.cutToHeading();
   w.ComboFix.select(0);
-  for (int row = 1; row <= all; ++row) {
-    const std::string name = w.FgPir1.text(row, kName);
-    w.shell().status(fmt::format("Esegue procedura: configurazione {} di {}, {}", row, all, name));
-    w.shell().progress(row, all);
-    if (w.FgPir1.number(row, kind) == kCycle) {
-      leaveOut(w, row);
-      continue;
-    }
-    if (const auto reason = runConfiguration(w, row)) {
-      leaveOut(w, row);
-      w.shell().status(fmt::format("Esegue procedura: configurazione {} di {} non ricaricata, {}", row, all, name));
-      mostraMancataRicarica(w, *reason);
-      continue;
-    }
-    gather(w, row);
-    ++run;
-  }
+  const int run = runAll(w);
   if (w.FgRagg.hasData()) w.FgRagg.setMerged({kKey, kName});
   w.FgRagg.setEmptyText("Nessuna previsione in corso");
   noteGrouping(w);
   MostraSfaldamenti(w);
+  w.shell().progress(w.FgPir1.dataRows(), w.FgPir1.dataRows());
   w.shell().status(fmt::format("Esegue procedura: {} su {}, {} in corso",
-                               counted(run, "configurazione", "configurazioni"), all,
+                               counted(run, "configurazione", "configurazioni"), w.FgPir1.dataRows(),
                                counted(w.FgRagg.dataRows(), "previsione", "previsioni")));
 }
 

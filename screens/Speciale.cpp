@@ -15,7 +15,8 @@ SpecialeScreen::SpecialeScreen(Speciale& form) : Screen(form) {
                                      .samples = {number, draw,   {},     draw,   QStringLiteral("88/88/8888"),
                                                  number, {},     number, number, number,
                                                  number, number, number, number, number,
-                                                 number, number, number, number, QStringLiteral("NZ")}}),
+                                                 number, number, number, number, QStringLiteral("NZ")},
+                                     .fitsFill = true}),
                     1);
 }
 

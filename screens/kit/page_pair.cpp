@@ -37,8 +37,15 @@ class PageHeading : public ClickLabel {
   bool m_current = false;
 };
 
-PagePair::PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed, QWidget* parent)
-    : QWidget(parent), m_control(control), m_pages(pages) {
+// Without the line that the style draws above what stands beside the tabs.
+class BareTabs : public QTabWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {}
+};
+
+PagePair::PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed,
+                   const std::array<QWidget*, 2>& tools, QWidget* parent)
+    : QWidget(parent), m_control(control), m_pages(pages), m_tools(tools) {
   build(framed);
   movePages();
   follow(*m_tabs, m_control, [this] { showFront(); });
@@ -53,10 +60,15 @@ void PagePair::build(bool framed) {
     if (auto* const panel = qobject_cast<Panel*>(made)) panel->setBare();
     return made;
   };
-  m_tabs = new QTabWidget;
+  const bool tools = m_tools[0] != nullptr || m_tools[1] != nullptr;
+  m_tabs = tools ? new BareTabs : new QTabWidget;
   m_tabs->setDocumentMode(true);
   m_tabs->tabBar()->setDrawBase(false);
   m_tabs->tabBar()->setExpanding(false);
+  if (tools) {
+    m_corner = row({});
+    m_tabs->setCornerWidget(holding(m_corner));
+  }
   m_narrow = frame();
   if (m_narrow->layout() == nullptr) new QVBoxLayout(m_narrow);
   m_narrow->layout()->addWidget(m_tabs);
@@ -72,7 +84,8 @@ void PagePair::build(bool framed) {
     auto* const heading = new PageHeading(caption);
     connect(heading, &ClickLabel::clicked, this, [this, given = given] { m_control.set(given); });
     side.heading = heading;
-    auto* const head = column({row({heading, Piece::gap()}), separator(Qt::Horizontal)});
+    side.head = row({heading, Piece::gap()});
+    auto* const head = column({side.head, separator(Qt::Horizontal)});
     head->setSpacing(0);
     side.layout = new QVBoxLayout;
     auto* const all = static_cast<QVBoxLayout*>(side.frame->layout());
@@ -104,7 +117,9 @@ void PagePair::movePages() {
     if (m_sideBySide) {
       m_sides[i].layout->addWidget(m_pages[i]);
       m_pages[i]->show();
+      if (m_tools[i] != nullptr) m_sides[i].head->addWidget(m_tools[i]);
     } else {
+      if (m_tools[i] != nullptr) m_corner->addWidget(m_tools[i]);
       m_sides[i].layout->removeWidget(m_pages[i]);
       m_tabs->tabBar()->setTabData(m_tabs->addTab(m_pages[i], qs(caption)), given);
     }
@@ -120,6 +135,7 @@ void PagePair::showFront() {
   for (std::size_t i = 0; i < m_pages.size(); ++i) {
     const bool current = m_control.captions()[i].first == front;
     m_sides[i].heading->setCurrent(current);
+    if (m_tools[i] != nullptr) m_tools[i]->setVisible(current || m_sideBySide);
     if (!current) continue;
     // Tabs that the user walks with the arrows keep the focus.
     const bool walking = m_tabs->tabBar()->hasFocus();

@@ -5,6 +5,7 @@
 
 #include "core/controls.h"
 
+class QBoxLayout;
 class QFrame;
 class QSplitter;
 class QTabWidget;
@@ -22,7 +23,9 @@ class PagePair : public QWidget {
  public:
   /// The pages stand in the order in which `control` tells its tabs. A page's focus proxy gets the focus for it.
   /// `framed`: with panels of their own; else inside what surrounds them.
-  PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed, QWidget* parent = nullptr);
+  /// `tools`: what stands in the line of a page's tab or heading, at its right end; null for none.
+  PagePair(Tabs& control, const std::array<QWidget*, 2>& pages, bool framed, const std::array<QWidget*, 2>& tools = {},
+           QWidget* parent = nullptr);
 
   void setSideBySide(bool sideBySide);
   bool sideBySide() const { return m_sideBySide; }
@@ -32,6 +35,7 @@ class PagePair : public QWidget {
   struct Side {
     QFrame* frame = nullptr;
     QVBoxLayout* layout = nullptr;
+    QBoxLayout* head = nullptr;
     PageHeading* heading = nullptr;
   };
 
@@ -40,10 +44,11 @@ class PagePair : public QWidget {
   void showFront();
 
   Tabs& m_control;
-  std::array<QWidget*, 2> m_pages;
+  std::array<QWidget*, 2> m_pages, m_tools;
   std::array<Side, 2> m_sides;
   QFrame* m_narrow = nullptr;
   QTabWidget* m_tabs = nullptr;
+  QBoxLayout* m_corner = nullptr;  // beside the tabs; null without tools
   QSplitter* m_splitter = nullptr;
   bool m_sideBySide = false;
   int m_front = -1;

@@ -40,7 +40,7 @@ constexpr const char* kRoad[] = {
     "FgZZ", "ComboSorte", "Cmd_Elabora100", "Command30", "Fg00", "Command51", "Command92", "Rimuove_Fg00", "Nuova_Fg00",
     "FgZ0", "Stampa_FgZ0", "Copia_FgZ0", "Pulisce_FgZ0", "Command85", "Command35", "Command102", "Command50",
     "Command55", "Command60", "Command61", "Ch_FF_1", "Ch_FF_2", "Ch_FF_3", "Ch_FF_0", "Command62", "Command38",
-    "Command93", "FgIC", "Command63", "Fg15", "FgGioco", "Command106", "SSTab4", "FgRagg", "Command109", "Command110",
+    "Command93", "FgIC", "Command63", "Fg15", "FgGioco", "Command106", "SSTab4", "Command109", "Command110", "FgRagg",
     "Command114", "Command115", "Command116", "FgConv", "Command9", "OptionRit_0", "OptionRit_1", "OptionRit_2",
     "Command88", "Command76", "Ch_coperture", "ComboDelta", "Command111", "Command112", "Command113", "Command104",
     "Command89", "FgRit", "Txt_Denominazione", "Command4", "Cmd_Riprendi", "Cmd_Elenco", "Txt_FiltroConfig",

@@ -1,10 +1,13 @@
 #include "screens/workbench/tabs.h"
 
+#include <QSplitter>
+#include <algorithm>
 #include <numeric>
 
 #include "followup/grouping.h"
 #include "screens/kit/icons.h"
 #include "screens/kit/kit.h"
+#include "screens/kit/page_pair.h"
 #include "screens/kit/scroll_column.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/sorte_tab.h"
@@ -33,10 +36,11 @@ QWidget* group(const std::vector<Piece>& pieces) {
   return holding(row(pieces));
 }
 
-// A column that keeps the width of so many figures.
+// A column that keeps the width of so many figures, or what it needs.
 QWidget* narrow(QWidget* column, int figures) {
   withTheme(*column, [column, figures] {
-    column->setFixedWidth(figures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8'));
+    const int width = figures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8');
+    column->setFixedWidth(std::max(width, column->minimumSizeHint().width()));
   });
   return column;
 }
@@ -64,7 +68,7 @@ QWidget* liveForecastsTab(Workbench& w) {
   std::vector<Piece> filters = {Kit::text(QStringLiteral("Filtra"), Type::Hint),
                                 kit.joined({"Command50", "Command55", "Command60", "Command61"}, false)};
   for (const char* const name : {"Ch_FF_1", "Ch_FF_2", "Ch_FF_3", "Ch_FF_0"}) filters.emplace_back(kit.check(name));
-  filters.emplace_back(kit.button("Command62", {.icon = "filter"}));
+  filters.emplace_back(kit.button("Command62"));
   StateMark* const state = kit.stateMark("FgIC");
   state->takeRest();
   std::vector<int> numbers(10);
@@ -73,7 +77,8 @@ QWidget* liveForecastsTab(Workbench& w) {
       kit.grid("FgIC", {.name = QStringLiteral("Previsioni in corso"),
                         .samples = repeated({QStringLiteral("8888"), QStringLiteral("3L"), QStringLiteral("88/88")}, 10,
                                             kNumber, {QStringLiteral("88/88/8888"), QStringLiteral("MI-MI-MI-MI-MI")}),
-                        .alike = numbers});
+                        .alike = numbers,
+                        .fitsFill = true});
   return pageOf({flow({kit.button("Command35", {.kind = ButtonKind::Primary, .icon = "play"}), kit.button("Command102"),
                        group(filters)},
                       {state, quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
@@ -83,12 +88,15 @@ QWidget* liveForecastsTab(Workbench& w) {
 QWidget* numbersInPlayTab(Workbench& w) {
   Kit kit(w);
   const QString numbers = QStringLiteral("88-88-88");
-  GridView* const cases = kit.grid(
-      "Fg15", {.name = QStringLiteral("Numeri in gioco"),
-               .samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")}});
+  GridView* const cases =
+      kit.grid("Fg15", {.name = QStringLiteral("Numeri in gioco"),
+                        .samples = {kNumber, numbers, numbers, numbers, {}, {}, QStringLiteral("88-88-88-88-88-88-88")},
+                        .fitsFill = true});
   GridView* const forecasts =
       kit.grid("FgGioco", {.name = QStringLiteral("Previsioni del caso"),
-                           .samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("888"))});
+                           .samples = repeated({QStringLiteral("LU")}, 10, QStringLiteral("88")),
+                           .even = true,
+                           .evenFrom = 1});
   return leftAndRight(column({{row({kit.button("Command63"), Piece::gap()})}, {cases, 1}}), column({{forecasts, 1}}),
                       forecasts);
 }
@@ -104,22 +112,28 @@ QWidget* groupingTab(Workbench& w, PagePair*& sheets) {
                                         kNumber},
                                        10, kNumber);
   list = repeated(list, kWheels, QStringLiteral("M"));
-  GridView* const found = kit.grid(
-      "FgRagg", {.name = QStringLiteral("Raggruppamento"), .samples = list, .heavyAfter = {6, 16}, .tight = true});
-  QWidget* const first =
-      pageOf({{found, 1}, flow({quiet(kit, "Command109", "print"), quiet(kit, "Command110", "copy")})});
+  GridView* const found = kit.grid("FgRagg", {.name = QStringLiteral("Raggruppamento"),
+                                              .samples = list,
+                                              .heavyAfter = {6, 16},
+                                              .fitsFill = true,
+                                              .restTo = 4,
+                                              .tight = true});
+  QWidget* const first = pageOf({{found, 1}});
   GridView* const counts = kit.grid(
       "FgConv", {.name = QStringLiteral("Convergenze"),
                  .samples = repeated({kNumber}, kWheels, kNumber),
                  .even = true,
                  .evenFrom = 1,
                  .toolTip = [&w](int gridRow, int column) { return qs(spiegaConvergenza(w, gridRow, column)); }});
-  QWidget* const second = pageOf(
-      {row({kit.joined({"Command114", "Command115", "Command116"}, false), Piece::gap(), kit.stateMark("FgConv")}),
-       {counts, 1}});
+  QWidget* const second = pageOf({{counts, 1}});
   first->setFocusProxy(found);
   second->setFocusProxy(counts);
-  sheets = new PagePair(w.SSTab4, {first, second}, false);
+  sheets =
+      new PagePair(w.SSTab4, {first, second}, false,
+                   {group({quiet(kit, "Command109", "print"), quiet(kit, "Command110", "copy")}),
+                    group({kit.stateMark("FgConv"), kit.joined({"Command114", "Command115", "Command116"}, false)})});
+  sheets->splitter()->setStretchFactor(0, 1);
+  sheets->splitter()->setStretchFactor(1, 0);
   return pageOf({row({kit.button("Command106", {.kind = ButtonKind::Primary, .icon = "play"}),
                       Kit::text(QStringLiteral("Le configurazioni di tipo Ciclo, senza durata fissa, restano escluse"),
                                 Type::Small),
@@ -131,19 +145,26 @@ QWidget* informationTab(Workbench& w) {
   Kit kit(w);
   std::vector<Piece> spans;
   for (const char* const name : {"OptionRit_0", "OptionRit_1", "OptionRit_2"}) spans.emplace_back(kit.option(name));
-  spans.emplace_back(kit.button("Command88"));
+  spans.insert(spans.end(), {Piece::gap(), kit.button("Command88")});
+  const auto search = [&kit](const char* name) { return row({Piece::gap(), kit.button(name)}); };
+  QBoxLayout* const searches =
+      column({row({Kit::captioned(QStringLiteral("Delta"), kit.combo("ComboDelta", QStringLiteral("8"))), Piece::gap(),
+                   kit.button("Command111")}),
+              search("Command112"), search("Command113")});
   QWidget* const commands =
-      pageOf({row({kit.button("Command9", {.kind = ButtonKind::Primary}), Piece::gap(), kit.stateMark("FgRit")}),
-              flow({group(spans)}), flow({kit.button("Command76"), kit.check("Ch_coperture")}),
-              flow({Kit::captioned(QStringLiteral("Delta"), kit.combo("ComboDelta", QStringLiteral("8"))),
-                    kit.button("Command111"), kit.button("Command112"), kit.button("Command113")}),
-              flow({kit.button("Command104", {.icon = "filter"}), quiet(kit, "Command89", "copy")}), Piece::gap()});
+      pageOf({kit.button("Command9", {.kind = ButtonKind::Primary}), row(spans), kit.button("Command76"),
+              row({kit.check("Ch_coperture"), Piece::gap(), kit.stateMark("FgRit")}), searches, Piece::gap(),
+              row({kit.button("Command104"), Piece::gap(), quiet(kit, "Command89", "copy")})});
+  // They belong together; and all of the column is in sight at 1366 x 768.
+  withTheme(*commands, [searches] { searches->setSpacing(Theme::current().unit() / 2); });
+  auto* const side = new ScrollColumn(narrow(commands, 33));
+  side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
   GridView* const values =
       kit.grid("FgRit", {.name = QStringLiteral("Ritardi e presenze"),
                          .samples = repeated({kNumber}, kWheels, QStringLiteral("8888"), {QStringLiteral("8888")}),
                          .even = true,
                          .evenFrom = 1});
-  return holding(row({narrow(new ScrollColumn(commands), 42), Piece::space(), {values, 1}}));
+  return holding(row({side, Piece::space(), {values, 1}}));
 }
 
 QWidget* configurationsTab(Workbench& w) {
