@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
+#include <utility>
 
 #include "core/errors.h"
 #include "core/grid_text.h"
@@ -158,7 +159,8 @@ void QtShell::place(Open& opened) {
     if (auto* const window = qobject_cast<ContainerScreen*>(&widget)) {
       maximised = m_settings != nullptr && !window->restore(*m_settings);
       window->setWork([this] { return work(); });
-      m_titleFollows = operations().whenSettled([this] {
+      m_afterOperations = operations().whenSettled([this] {
+        drawAgain();
         if (ContainerScreen* const shown = shellWindow()) shown->showTitle();
       });
       connect(window, &ContainerScreen::helpWanted, this, &QtShell::helpOfFront);
@@ -293,7 +295,9 @@ void QtShell::openAddress(const std::string& url) {
 
 void QtShell::progress(int value, int maximum) {
   if (m_program == nullptr || m_program->container == nullptr) return;
+  if (operations().running() && value < maximum) keepPictures();
   m_program->container->Pb1.set(value, maximum);
+  if (value >= maximum) drawAgain();
   if (m_emptyAsked || !(operations().running() || value >= maximum)) return;
   m_emptyAsked = true;
   QTimer::singleShot(0, this, &QtShell::emptyProgress);
@@ -308,6 +312,20 @@ void QtShell::emptyProgress() {
   m_emptyAsked = false;
   if (m_program != nullptr && m_program->container != nullptr)
     m_program->container->Pb1.set(0, m_program->container->Pb1.maximum());
+}
+
+// The bar that moves draws what waits to be drawn, and so does a box: in the midst of a work that is half done. Until
+// it is over the screens keep the picture that they had before it.
+void QtShell::keepPictures() {
+  if (std::exchange(m_keepsPictures, true)) return;
+  for (const std::unique_ptr<Open>& opened : m_open)
+    if (opened->widget != nullptr && opened->entry->place != Place::Window) opened->widget->setUpdatesEnabled(false);
+}
+
+void QtShell::drawAgain() {
+  if (!std::exchange(m_keepsPictures, false)) return;
+  for (const std::unique_ptr<Open>& opened : m_open)
+    if (opened->widget != nullptr) opened->widget->setUpdatesEnabled(true);
 }
 
 void QtShell::status(const std::string& text) {

@@ -92,6 +92,8 @@ class QtShell : public QObject, public Shell {
   QStringList work() const;
   HelpViewer& helpWindow();
   void emptyProgress();
+  void keepPictures();
+  void drawAgain();
 
   std::vector<ScreenEntry> m_screens;
   Program* m_program = nullptr;
@@ -99,8 +101,9 @@ class QtShell : public QObject, public Shell {
   std::vector<std::unique_ptr<Open>> m_closed;  // waiting for the end of the operation that closed them
   std::unique_ptr<QSettings> m_settings;
   std::unique_ptr<HelpViewer> m_help;
-  std::shared_ptr<void> m_titleFollows;  // what is at work, after each operation
+  std::shared_ptr<void> m_afterOperations;  // the title tells what is at work, and what stood still is drawn
   bool m_purgeAsked = false, m_opening = false, m_emptyAsked = false;
+  bool m_keepsPictures = false;
 };
 
 }  // namespace trv5
