@@ -16,6 +16,7 @@ SpecialeScreen::SpecialeScreen(Speciale& form) : Screen(form) {
                                                  number, {},     number, number, number,
                                                  number, number, number, number, number,
                                                  number, number, number, number, QStringLiteral("NZ")},
+                                     .alike = {7, 8, 9, 10, 11, 12, 13, 14, 15, 16},
                                      .fitsFill = true}),
                     1);
 }

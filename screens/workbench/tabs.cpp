@@ -81,7 +81,7 @@ QWidget* liveForecastsTab(Workbench& w) {
                         .fitsFill = true});
   return pageOf({flow({kit.button("Command35", {.kind = ButtonKind::Primary, .icon = "play"}), kit.button("Command102"),
                        group(filters)},
-                      {state, quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")}),
+                      {state, group({quiet(kit, "Command38", "print"), quiet(kit, "Command93", "copy")})}),
                  {live, 1}});
 }
 
