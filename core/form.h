@@ -94,7 +94,7 @@ class Form {
   bool m_acting = false;     // an act is under way
   bool m_restoring = false;  // no operation runs
   std::vector<std::shared_ptr<void>> m_held;
-  int m_still = 0;           // how many keep the views from hearing
+  int m_still = 0;  // how many keep the views from hearing
 };
 
 template <class Kind>
