@@ -74,7 +74,12 @@ std::unique_ptr<Workbench> makeWorkbench(Program& program) {
   auto w = std::make_unique<Workbench>(program.archive, program.shell);
   equipWorkbench(*w);
   connectDatabase(*w, program);
-  w->keep(program.archiveReloaded.subscribe([&bench = *w] { SegueArchivio(bench); }));
+  w->keep(program.archiveReloaded.subscribe([&bench = *w, stamp = program.archive.loadStamp()]() mutable {
+    SegueArchivio(bench);
+    // What stood before can't be taken back any more, and the buttons say so at once.
+    if (stamp != bench.archive.loadStamp()) bench.history.start();
+    stamp = bench.archive.loadStamp();
+  }));
   return w;
 }
 
