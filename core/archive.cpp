@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <stdexcept>
+#include <utility>
 
 #include "core/text.h"
 
@@ -18,19 +19,24 @@ Archive::Archive()
 
 void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
   if (rows.size() > kMaxDraws) throw std::length_error("more than 9999 draws");
-  m_shown.assign(kSlots * kDrawBytes, 0);
-  m_dates.assign(kSlots, {});
+  std::vector<std::uint8_t> shown(kSlots * kDrawBytes);
+  std::vector<std::string> dates(kSlots);
   std::size_t at = kDrawBytes;
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    m_dates[i + 1] = rows[i].date;
+    dates[i + 1] = rows[i].date;
     for (const std::string& wheel : rows[i].wheels) {
       // Places count characters: well-formed texts, 14 bytes, have one byte each.
       const std::string counted = wheel.size() > 14 ? asciiText(wheel) : std::string();
       const std::string_view text = counted.empty() ? std::string_view(wheel) : std::string_view(counted);
       for (std::size_t position = 0; position < kPositions; ++position, ++at)
-        if (text.size() > position * 3) m_shown[at] = static_cast<std::uint8_t>(numberOf(text.substr(position * 3, 2)));
+        if (text.size() > position * 3) shown[at] = static_cast<std::uint8_t>(numberOf(text.substr(position * 3, 2)));
     }
   }
+  static std::atomic<std::uint64_t> loads = 0;
+  const bool same = m_stamp != 0 && m_count == static_cast<int>(rows.size()) && shown == m_shown && dates == m_dates;
+  if (!same) m_stamp = ++loads;
+  m_shown = std::move(shown);
+  m_dates = std::move(dates);
   m_numbers = m_shown;
   for (std::uint8_t& n : m_numbers)
     if (n > 90) n = 0;
@@ -40,8 +46,6 @@ void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
       for (std::size_t b = a + 1; b < wheel + kPositions; ++b)
         if (m_numbers[a] != 0 && m_numbers[a] == m_numbers[b]) m_repeats = true;
   m_count = static_cast<int>(rows.size());
-  static std::atomic<std::uint64_t> loads = 0;
-  m_stamp = ++loads;
 }
 
 void Archive::countProgressives() {

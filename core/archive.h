@@ -42,7 +42,7 @@ class Archive {
   /// The model archive over the whole archive, 1..`NumEstrazioni`.
   void setWholeModel();
 
-  /// Differs after each load of draws, in whichever archive of the program.
+  /// Differs after each load that brings other draws than before, in whichever archive of the program.
   std::uint64_t loadStamp() const { return m_stamp; }
 
   int NumEstrazioni() const { return m_count; }

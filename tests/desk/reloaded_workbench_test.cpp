@@ -247,6 +247,20 @@ TEST_F(ReloadedWorkbench, OutlivesTheDeletionOfTheReferenceAndAllBehindIt) {
   expectOutlives(removeAll, kReference - 21, kReference - 21);
 }
 
+TEST_F(ReloadedWorkbench, KeepsItsOperationsToBeTakenBackWhileTheArchiveIsOnlyLookedAt) {
+  w->FgNu.clickCell(5, 5);
+  const WorkbenchSnapshot before(*w);
+  w->FgNu.clickCell(6, 6);
+  world.shell.close("archivio");
+  a = static_cast<Archivio*>(&world.shell.show("archivio"));
+  press("Cmd_Annulla");
+  EXPECT_EQ(difference(before, *w), "");
+  a->FgImporta.appendRow();
+  a->Command28.press();  // nothing to write, and the same draws are read again
+  press("Cmd_Ripeti");
+  EXPECT_NE(difference(before, *w), "");
+}
+
 TEST_F(ReloadedWorkbench, OutlivesAnUpdateThatAddsAndCorrects) {
   fill();
   expectOutlives(
