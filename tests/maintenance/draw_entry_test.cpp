@@ -287,6 +287,18 @@ TEST_F(DrawEntry, PasteOfATextWithoutNumbersWritesZeros) {
   for (int box = 1; box <= EntryBoxes::kBoxes; ++box) EXPECT_EQ(a.txtin[box].text(), "00");
 }
 
+TEST_F(DrawEntry, PasteOfAMegabyteTakesItsFirstNumbersAndEmptiesBoxesThatTheyDoNotFit) {
+  for (int n = 0; n < 250000; ++n) world.shell.clipboardText += std::to_string(10 + n % 80) + "-\t";
+  a.Command12.press();
+  for (int box = 1; box <= EntryBoxes::kBoxes; ++box) EXPECT_EQ(a.txtin[box].text(), std::to_string(9 + box));
+  world.shell.clipboardText = std::string(1 << 20, '9');
+  a.Command12.press();
+  EXPECT_EQ(boxesOf(a).substr(0, 7), ". 00 00");
+  world.shell.clipboardText = std::string(1 << 20, '\xE8');
+  a.Command12.press();
+  EXPECT_EQ(boxesOf(a).substr(0, 8), "00 00 00");
+}
+
 TEST_F(DrawEntry, TheLastNumberOfThePastedTextCountsWithoutAnythingBehindIt) {
   world.shell.clipboardText = "7";
   a.Command12.press();

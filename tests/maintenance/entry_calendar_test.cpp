@@ -158,6 +158,9 @@ TEST_F(EntryCalendar, ImpostaDataWithNonsenseLeavesTheCalendar) {
     a.Text1.set(text);
     a.Command6.press();
     EXPECT_EQ(a.MonthView1.date(), "22/08/2026") << text;
+    EXPECT_EQ(world.shell.statusTexts.back(),
+              "La data va scritta GG/MM/AAAA, dal 1753 in poi: il calendario resta al 22/08/2026");
+    world.shell.statusTexts.emplace_back();
   }
   EXPECT_TRUE(world.shell.shown.empty());
 }

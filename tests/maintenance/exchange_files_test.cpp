@@ -81,6 +81,13 @@ TEST(ExchangeFiles, ProgAnnoOf100AndMoreTakesThreeDigitsInALineOf111Characters) 
   EXPECT_EQ(integerAt(datiIii(withDates(dates)), 99 * 110 + 108), 100);
 }
 
+TEST(ExchangeFiles, RecordIIsDrawIOfTheArchiveAsLoadedWhateverItsDate) {
+  const std::string records = datiIii(withDates({"03/01/2005", "12/06/1961", "03/01/1990"}));
+  EXPECT_EQ(integerAt(records, 0 * 110 + 4), 5);
+  EXPECT_EQ(integerAt(records, 1 * 110 + 4), 61);
+  EXPECT_EQ(integerAt(records, 2 * 110 + 4), 90);
+}
+
 TEST(ExchangeFiles, AnEmptyArchiveGivesEmptyFiles) {
   EXPECT_EQ(datiIii(Archive()), "");
   EXPECT_EQ(ruotafast(Archive()), "");

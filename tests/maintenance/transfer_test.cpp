@@ -123,6 +123,11 @@ TEST(Transfer, StopsAtSixteenMiBWhetherAnnouncedOrNot) {
   EXPECT_LE(fetched.bytes.size(), std::size_t{16} << 20);
 }
 
+TEST(Transfer, IsGivenThirtySecondsAndSixteenMiB) {
+  EXPECT_EQ(TransferLimits().time, std::chrono::seconds(30));
+  EXPECT_EQ(TransferLimits().bytes, 16U * 1024 * 1024);
+}
+
 TEST(Transfer, AFileOfExactlyTheLimitArrives) {
   const LoopbackServer server([](const Answer& answer, const std::string&) { answer.http("200 OK", "0123456789"); });
   EXPECT_EQ(fetch(server.address(), {.bytes = 10}).bytes, "0123456789");

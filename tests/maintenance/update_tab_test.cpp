@@ -248,6 +248,22 @@ TEST_F(UpdateTabTest, AnArchiveThatAnotherProcessHoldsOrTheDiskCannotTakeStaysAs
   EXPECT_EQ(world.stored().size(), 31U) << "once the disk is free";
 }
 
+TEST_F(UpdateTabTest, AnArchiveThatIsReadOnlyIsNotWrittenToAndTheBoxSaysWhy) {
+  offerDraws({newDraw()});
+  boxes();
+  const Grid before = a().FgImporta.grid();
+  {
+    const ReadOnlyFolder readOnly(world.folder.path());
+    a().Command28.press();
+  }
+  EXPECT_EQ(world.shell.lastBox().icon, Icon::Critical);
+  ASSERT_EQ(world.shell.shown.size(), 1U);
+  EXPECT_THAT(world.shell.lastBox().text, HasSubstr("il file è in sola lettura"));
+  EXPECT_EQ(a().FgImporta.grid(), before);
+  EXPECT_THAT(lines(), IsEmpty());
+  EXPECT_TRUE(sameDraws(world.stored(), rows));
+}
+
 TEST_F(UpdateTabTest, AnArchiveThatVanishedIsNotWrittenTo) {
   offerDraws({newDraw()});
   boxes();
