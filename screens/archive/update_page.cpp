@@ -69,6 +69,7 @@ void leadToNextStage(const Archivio& form, QPushButton& check, QPushButton& upda
     dress(update, {.kind = marked ? ButtonKind::Primary : ButtonKind::Secondary, .icon = "save"});
     for (QPushButton* const button : {&check, &update}) {
       button->style()->unpolish(button);
+      button->setFont({});  // the bold type of the primary one would stay
       button->style()->polish(button);
     }
   };
@@ -89,8 +90,12 @@ QWidget* archiveUpdatePage(Archivio& form) {
       {check, kit.button("Command21", {.icon = "folder", .mnemonic = 'F'}),
        kit.button("Command27", {.icon = "download"}), Piece::space(), kit.check("Check3"), update, Piece::gap(),
        otherCommands(form), kit.button("Command23", {.kind = ButtonKind::Quiet, .icon = "help", .iconOnly = true})});
-  GridView* const rows = kit.grid(
-      "FgImporta", {.name = QStringLiteral("Estrazioni del file"), .samples = samples, .folded = {0}, .evenFrom = 2});
+  GridView* const rows = kit.grid("FgImporta", {.name = QStringLiteral("Estrazioni del file"),
+                                                .samples = samples,
+                                                .folded = {0},
+                                                .fitsFill = true,
+                                                .evenFrom = 2,
+                                                .atEnd = true});
   leadToNextStage(form, *check, *update, *rows);
   QLabel* const server = kit.label("Lbl_Server", Type::Small);
   server->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <QTest>
 
 #include "maintenance/archivio.h"
+#include "screens/kit/grid_view.h"
+#include "screens/kit/theme.h"
 #include "support/loopback_server.h"
 #include "window_world.h"
 
@@ -29,8 +32,19 @@ struct UpdatePage {
     shell.closeAll();
     shell.purge();
   }
+  // Its kind, and whether its caption is in bold type: the primary one's alone is.
   std::string kindOf(const char* button) const {
-    return shell.widget("archivio", button)->property("kind").toString().toStdString();
+    const QWidget& widget = *shell.widget("archivio", button);
+    const std::string kind = widget.property("kind").toString().toStdString();
+    EXPECT_EQ(widget.font().weight() >= QFont::DemiBold, kind == "primary") << button;
+    return kind;
+  }
+  // AGGIORNA DA FILE with the text.
+  void offer(const std::string& text) {
+    writeBytes(files.folder / "agg.txt", text);
+    shell.files.push_back(files.folder / "agg.txt");
+    form->Command21.press();
+    settle();
   }
 
   ProgramWorld files;
@@ -41,19 +55,43 @@ struct UpdatePage {
 
 TEST(UpdatePage, TheButtonOfTheNextStageIsThePrimaryOne) {
   UpdatePage page;
+  for (const QSize size : {QSize(1920, 1080), QSize(1366, 768)}) {  // its type becomes smaller
+    page.shell.widget("Container")->resize(size);
+    settle();
+  }
   EXPECT_EQ(page.kindOf("Command18"), "primary");
   EXPECT_EQ(page.kindOf("Command28"), "secondary");
-  writeBytes(page.files.folder / "agg.txt",
-             "08/01/1939 01-02-03-04-05" + std::string(151, ' ') + "pr\r\n07/01/1939 58-22-47-49-69");
-  page.shell.files.push_back(page.files.folder / "agg.txt");
-  page.form->Command21.press();
-  settle();
+  page.offer("08/01/1939 01-02-03-04-05" + std::string(151, ' ') + "pr\r\n07/01/1939 58-22-47-49-69");
   EXPECT_EQ(page.form->FgImporta.rows(), 3);
   EXPECT_EQ(page.kindOf("Command18"), "secondary");
   EXPECT_EQ(page.kindOf("Command28"), "primary");
   page.form->FgImporta.cutToHeading();
   settle();
   EXPECT_EQ(page.kindOf("Command18"), "primary");
+  EXPECT_EQ(page.kindOf("Command28"), "secondary");
+}
+
+TEST(UpdatePage, TheColumnsOfAFileFillTheGridAlsoAfterTheWindowHasGrown) {
+  UpdatePage page;
+  QWidget& main = *page.shell.widget("Container");
+  main.resize(1366, 768);
+  settle();
+  std::string line = "08/01/1939";
+  for (int wheel = 0; wheel < kWheels; ++wheel) line += " 88-88-88-88-88";
+  std::string file;
+  for (int i = 0; i < 100; ++i) file += line + " pr\r\n";
+  page.offer(file);
+  const auto& view = *qobject_cast<GridView*>(page.shell.widget("archivio", "FgImporta"));
+  for (const QSize size : {QSize(1366, 768), QSize(1920, 1080)}) {
+    main.resize(size);
+    for (int i = 0; i < 3; ++i) settle();
+    const QFontMetrics metrics(view.cellFont(false));
+    EXPECT_GE(view.columnWidth(2), metrics.horizontalAdvance(QStringLiteral("88-88-88-88-88")) + 8) << size.width();
+    const auto [left, width] = view.columnSpan(12);
+    EXPECT_GE(left + width, view.viewport()->width()) << size.width();
+    EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum()) << "the newest draws are last";
+  }
+  Theme::edit().setWindowHeight(1080);
 }
 
 TEST(UpdatePage, AServerThatSendsAByteASecondHoldsNoEventOfTheWindowAndIsGivenUp) {
