@@ -15,8 +15,14 @@ namespace {
 // A box holds two figures with room around them.
 QLineEdit* numberBox(Kit& kit, int wheel, int position) {
   const std::string name = "txtin_" + std::to_string(wheel * kPositions + position);
-  QLineEdit* const box = kit.edit(name, QStringLiteral("888"));
+  QLineEdit* const box = kit.edit(name);
+  box->setProperty("figures", true);
   box->setAlignment(Qt::AlignCenter);
+  withTheme(*box, [box] {
+    QFont font = Theme::current().base();
+    font.setPointSizeF(Theme::current().figurePoints());
+    box->setFixedWidth(QFontMetrics(font).horizontalAdvance(QStringLiteral("888")) + 22);
+  });
   const std::string_view wheelName = NomiRuote[static_cast<std::size_t>(wheel)];
   box->setAccessibleName(QStringLiteral("%1, %2").arg(qs(std::string(wheelName))).arg(position));
   return box;
@@ -48,8 +54,11 @@ QLayout* group(const char* title, const std::vector<QPushButton*>& buttons) {
   std::vector<Piece> pieces = {Kit::text(QString::fromUtf8(title), Type::Hint)};
   for (QPushButton* const button : buttons) pieces.emplace_back(button);
   QBoxLayout* const made = column(pieces);
-  // Close together, so that the calendar of a year has its twelve rows in a low window too.
-  withTheme(*made, [made] { made->setSpacing(Theme::current().unit() / 2); });
+  // Close together in a low window, so that the calendar of a year has its twelve rows there too.
+  withTheme(*made, [made] {
+    const Theme& theme = Theme::current();
+    made->setSpacing(theme.density() == Theme::Density::Compact ? theme.unit() / 3 : theme.unit());
+  });
   return made;
 }
 
@@ -87,7 +96,9 @@ QWidget* drawPanel(Kit& kit) {
   // What it says is as long as it may be: the panel isn't.
   QLabel* const remark = kit.label("Lbl_Controllo", Type::Small);
   remark->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  panel->body()->addLayout(row({column({{numberBoxes(kit), 1}, remark}), Piece::space(), {commands(kit), 1}}), 1);
+  QBoxLayout* const boxes = column({{numberBoxes(kit), 1}, remark});
+  withTheme(*boxes, [boxes] { boxes->setSpacing(Theme::current().unit() / 3); });
+  panel->body()->addLayout(row({boxes, Piece::space(), {commands(kit), 1}}), 1);
   return panel;
 }
 

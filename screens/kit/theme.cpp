@@ -268,6 +268,10 @@ int Theme::control() const {
   return m_line + (m_density == Density::Compact ? 8 : 11);
 }
 
+int Theme::low() const {
+  return m_density == Density::Compact ? m_line + 6 : control();
+}
+
 int Theme::unit() const {
   return m_density == Density::Compact ? m_line / 3 : m_line * 8 / 19;
 }
@@ -290,6 +294,9 @@ QString Theme::styleSheet() const {
       {"@focusTabPad", QString::number(unit() / 2)},
       {"@focusUnit", QString::number(unit() - 2)},
       {"@inner", QString::number(control() - 2)},
+      {"@figures", QString::number(figurePoints())},
+      {"@lowFocus", QString::number(low() - 4)},
+      {"@low", QString::number(low() - 2)},
       {"@tallFocus", QString::number(control() + 4)},
       {"@tall", QString::number(control() + 6)},
       {"@chip", m_dark ? QStringLiteral("#FFFFFF") : QStringLiteral("transparent")},

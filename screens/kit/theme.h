@@ -107,6 +107,7 @@ class Theme : public QObject {
   double basePoints() const;
   double smallPoints() const;
   double largePoints() const { return basePoints() * 1.35; }
+  double figurePoints() const { return basePoints() * 1.125; }  ///< of numbers that one types one after the other
   void stepBase(double points) { setBasePoints(basePoints() + points); }
 
   const QFont& base() const { return m_base; }
@@ -117,6 +118,7 @@ class Theme : public QObject {
   int row() const;      ///< height of a grid's row
   int heading() const;  ///< height of a grid's heading
   int control() const;  ///< height of buttons, lists and text boxes
+  int low() const;      ///< height of boxes that stand one below the other in great number
   int unit() const;     ///< gap between controls and between panels
   int panelPadding() const { return unit() + 2; }
 

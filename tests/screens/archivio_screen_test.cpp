@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -98,6 +99,44 @@ TEST_F(ArchivioScreenTest, AWholeDrawIsEnteredByTheKeyboardAlone) {
   EXPECT_EQ(QApplication::focusWidget(), &box(1));
 }
 
+TEST_F(ArchivioScreenTest, FromTheEmptyBoxesToTheSavedDrawNoMouseIsNeeded) {
+  form().MonthView1.set("22/08/2026");
+  QTest::keyClick(&main(), Qt::Key_G, Qt::AltModifier);  // AZZERA GRID; a button pressed so is let go after a moment
+  ASSERT_TRUE(QTest::qWaitFor([this] { return form().txtin[55].text().empty(); }));
+  QTest::keyClick(&main(), Qt::Key_B, Qt::AltModifier);
+  settle();
+  ASSERT_EQ(QApplication::focusWidget(), &box(1));
+  for (int i = 1; i <= EntryBoxes::kBoxes; ++i) {
+    for (const char digit : std::to_string(i)) key(Qt::Key_0 + (digit - '0'));
+    key(Qt::Key_Return);
+  }
+  shell.agrees = true;
+  QTest::keyClick(&main(), Qt::Key_S, Qt::AltModifier);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return shell.messages.size() == 2; }));
+  EXPECT_EQ(shell.messages.back(), "Dati salvati correttamente. Ricarico archivio.");
+  const int last = program.archive.NumEstrazioni();
+  ASSERT_EQ(last, 301);
+  for (int i = 0; i < EntryBoxes::kBoxes; ++i)
+    EXPECT_EQ(program.archive.NumeriEstratti(last, i / kPositions, i % kPositions + 1), i + 1);
+}
+
+TEST_F(ArchivioScreenTest, AMegabytePastedIntoABoxHoldsNothingUpAndEmptiesIt) {
+  box(7).setFocus();
+  for (const QString& text : {QString(1 << 20, u'9'), QString(1 << 20, u' '), QString(1 << 20, u'è')}) {
+    QApplication::clipboard()->setText(text);
+    QElapsedTimer clock;
+    clock.start();
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_LT(clock.elapsed(), 1000);
+    box(8).setFocus();
+    EXPECT_LE(box(7).text().size(), 2);
+    box(7).setFocus();
+  }
+  QApplication::clipboard()->clear();
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(box(7).text(), QString()) << "in place of what is selected";
+}
+
 TEST_F(ArchivioScreenTest, AHundredPastedIntoABoxEmptiesIt) {
   box(7).setFocus();
   QApplication::clipboard()->setText(QStringLiteral("100"));
@@ -175,7 +214,7 @@ TEST_F(ArchivioScreenTest, FitsIntoALowWindowAlsoWhenThatWasHighBefore) {
 
 TEST_F(ArchivioScreenTest, TheTwelveMonthsOfAYearAreInSightInACompactWindow) {
   form().Combo1.type("1940");
-  resize({1366, 850});
+  resize({1366, 768});
   settle();
   const auto& view = *qobject_cast<GridView*>(&find("Fg1"));
   EXPECT_EQ(form().Fg1.rows(), 13);

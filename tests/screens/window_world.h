@@ -22,7 +22,7 @@ class QuietShell : public QtShell {
   void message(const Box& box) override { messages.push_back(box.text); }
   bool confirm(const Box& box) override {
     messages.push_back(box.text);
-    return false;
+    return agrees;
   }
   std::optional<std::string> input(const InputBox& box) override {
     messages.push_back(box.text);
@@ -38,6 +38,7 @@ class QuietShell : public QtShell {
 
   std::vector<std::string> messages;
   std::deque<std::filesystem::path> files;
+  bool agrees = false;  ///< what the user says to every question
   int quits = 0;
 };
 
