@@ -106,6 +106,10 @@ QWidget* calendarPanel(Kit& kit) {
   auto* const panel = new Panel;
   QCalendarWidget* const calendar = kit.calendar("MonthView1");
   calendar->setAccessibleName(QStringLiteral("Data della nuova estrazione"));
+  // Less than it asks for by itself, so that a small window holds the panels beside it.
+  withTheme(*calendar, [calendar] {
+    calendar->setMinimumWidth(7 * QFontMetrics(Theme::current().base()).horizontalAdvance(QStringLiteral("88888")));
+  });
   panel->body()->addWidget(calendar, 1);
   return panel;
 }

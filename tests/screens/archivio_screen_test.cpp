@@ -212,6 +212,18 @@ TEST_F(ArchivioScreenTest, FitsIntoALowWindowAlsoWhenThatWasHighBefore) {
   EXPECT_EQ(page.verticalScrollBar()->maximum(), 0);
 }
 
+TEST_F(ArchivioScreenTest, IsNoWiderThanItsWindowOnAnyTab) {
+  for (const int tab : {0, 1, 2, 3}) {
+    form().SSTab1.set(tab);
+    for (const QSize size : {QSize(1366, 768), QSize(1280, 720), QSize(1920, 1080)}) {
+      resize(size);
+      const QWidget& screen = *shell.widget("archivio");
+      const auto& area = *main().findChild<QMdiArea*>();
+      EXPECT_LE(screen.mapTo(&area, QPoint(screen.width(), 0)).x(), area.width()) << size.width() << ", tab " << tab;
+    }
+  }
+}
+
 TEST_F(ArchivioScreenTest, TheTwelveMonthsOfAYearAreInSightInACompactWindow) {
   form().Combo1.type("1940");
   resize({1366, 768});
