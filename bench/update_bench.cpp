@@ -1,14 +1,16 @@
-// The update of an archive and the files for other programs, on the simulated draws (7,370, as many as the history
-// has), step by step. What they are to stay under: the check of 7,370 rows 40 ms, of the published history 300 ms, the
-// writing of 7,370 new draws with the reload 400 ms, each file 30 ms.
+// The update of an archive and the files for other programs, step by step, on the published history where it lies
+// beside the checkout, else on as many simulated draws (7,370). What they are to stay under: the check of 7,370 rows
+// 40 ms, of the published history 300 ms, the writing of 7,370 new draws with the reload 400 ms, each file 30 ms.
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "core/database_files.h"
 #include "maintenance/archivio_world.h"
 #include "maintenance/formats/exchange_files.h"
+#include "maintenance/formats/history_file.h"
 #include "maintenance/formats/update_text.h"
 #include "maintenance/update_check.h"
 #include "maintenance/update_writer.h"
@@ -22,7 +24,8 @@ namespace {
 const std::vector<DrawRow>& draws() {
   static const std::vector<DrawRow> rows = [] {
     std::vector<DrawRow> made;
-    for (const Draw& draw : simulatedDraws()) made.push_back(rowOf(draw));
+    const bool real = std::filesystem::exists(TRV5_HISTORY);
+    for (const Draw& draw : real ? readHistoryFile(TRV5_HISTORY) : simulatedDraws()) made.push_back(rowOf(draw));
     return made;
   }();
   return rows;
