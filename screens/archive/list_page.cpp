@@ -17,6 +17,7 @@ QWidget* archiveListPage(Archivio& form) {
                           .samples = samples,
                           .folded = {0},
                           .evenFrom = 2,
+                          .tight = true,  // all wheels in sight in a small window; in a larger one they share the room
                           .atEnd = true}),
         1}}));
   padAsPage(*page);
