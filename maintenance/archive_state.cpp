@@ -31,6 +31,7 @@ void RicaricaArchivio(Archivio& a) {
   fillFgDB(rows, a.FgDB);
   a.Label9.setText(std::to_string(rows.size()));
   a.shell().progress(0, 0);
+  a.shell().status("Archivio caricato: " + describeArchive(a.program, rows));
 }
 
 void AggiornaMaschera(Archivio& a) {

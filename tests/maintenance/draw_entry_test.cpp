@@ -118,6 +118,7 @@ TEST_F(DrawEntry, TheReloadRewritesTheShellButForTheCountOfTheModel) {
   EXPECT_EQ(shell.Lbl_Ev.text(), "1");
   EXPECT_EQ(shell.FG5.rows(), 5);
   EXPECT_EQ(world.shell.progressValues.back(), (std::pair{0, 0}));
+  EXPECT_EQ(world.shell.statusTexts.back().substr(0, 32), "Archivio caricato: 4 estrazioni;");
 }
 
 TEST_F(DrawEntry, ADateThatIsThereShowsTheFailureAndChangesNothing) {
