@@ -91,49 +91,108 @@ void insertSystems(SQLite::Database& database, const std::vector<OrthogonalSyste
   }
 }
 
-void insertDraws(SQLite::Database& database, const std::vector<DrawRow>& rows) {
+void bindOrNull(SQLite::Statement& statement, int parameter, const std::string& text) {
+  if (text.empty())
+    statement.bind(parameter);
+  else
+    statement.bind(parameter, text);
+}
+
+std::string isoOfDate(const std::string& date) {
+  const std::optional<Day> day = dayOfText(date);
+  if (!day) throw UserError(fmt::format("\"{}\" non è una data nella forma GG/MM/AAAA.", date));
+  return isoText(*day);
+}
+
+void insertDraws(SQLite::Database& database, const std::vector<RegisteredDraw>& draws) {
   SQLite::Statement insert(database,
                            "INSERT INTO EstrazioniLotto (DataEstrazione, Ba, Ca, Fi, Ge, Mi, Na, Pa, Ro, \"To\", Ve, "
-                           "Nz) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+                           "Nz, datareg, orareg) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
   SQLite::Statement sum(database, "INSERT INTO VerificaEstrazioni VALUES (?, ?)");
-  for (const DrawRow& row : rows) {
-    const std::optional<Day> day = dayOfText(row.date);
-    if (!day) throw UserError(fmt::format("\"{}\" non è una data nella forma GG/MM/AAAA.", row.date));
-    insert.bind(1, isoText(*day));
-    for (int wheel = 0; wheel < kWheels; ++wheel) {
-      const std::string& text = row.wheels[static_cast<std::size_t>(wheel)];
-      if (text.empty())
-        insert.bind(wheel + 2);
-      else
-        insert.bindNoCopy(wheel + 2, text);
-    }
+  for (const auto& [row, registered] : draws) {
+    const std::string day = isoOfDate(row.date);
+    insert.bind(1, day);
+    for (int wheel = 0; wheel < kWheels; ++wheel)
+      bindOrNull(insert, wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
+    bindOrNull(insert, 13, registered.datareg.empty() ? std::string() : isoOfDate(registered.datareg));
+    bindOrNull(insert, 14, registered.orareg);
     insert.exec();
     insert.reset();
-    sum.bind(1, isoText(*day));
+    sum.bind(1, day);
     sum.bind(2, sumOfDraw(row));
     sum.exec();
     sum.reset();
   }
 }
 
+void insertFields(SQLite::Database& database, std::string_view table, const ConfigurationRows::Fields& fields) {
+  std::string names, places;
+  for (const auto& [name, value] : fields) {
+    names += fmt::format("{}{}", names.empty() ? "" : ", ", name);
+    places += places.empty() ? "?" : ", ?";
+  }
+  SQLite::Statement insert(database, fmt::format("INSERT INTO {} ({}) VALUES ({})", table, names, places));
+  int parameter = 0;
+  for (const auto& [name, value] : fields) {
+    ++parameter;
+    if (value)
+      insert.bind(parameter, *value);
+    else
+      insert.bind(parameter);
+  }
+  insert.exec();
+}
+
+// One that the tables don't admit is left out whole.
+std::vector<std::string> insertConfigurations(SQLite::Database& database,
+                                              const std::vector<ConfigurationRows>& configurations) {
+  std::vector<std::string> refused;
+  for (const ConfigurationRows& configuration : configurations) {
+    database.exec("SAVEPOINT configuration");
+    try {
+      insertFields(database, "Elenco_Memo", configuration.head);
+      for (const ConfigurationRows::Fields& detail : configuration.details)
+        insertFields(database, "Elenco_Dett", detail);
+    } catch (const SQLite::Exception& error) {
+      const int code = error.getErrorCode();
+      if (code != SQLITE_CONSTRAINT && code != SQLITE_MISMATCH) throw;
+      database.exec("ROLLBACK TO configuration");
+      refused.push_back(fmt::format("\"{}\": {}", configuration.name, error.what()));
+    }
+    database.exec("RELEASE configuration");
+  }
+  return refused;
+}
+
 }  // namespace
 
-void createMainDatabase(const fs::path& file, const MainContents& contents, Existing existing,
-                        std::string_view password) {
+std::vector<std::string> createMainDatabase(const fs::path& file, const MainContents& contents, Existing existing,
+                                            std::string_view password) {
+  std::vector<std::string> refused;
   createFile(file, FileKind::Main, existing, password, [&](SQLite::Database& database) {
     database.exec(kMainSchema);
     database.exec(kConfigurationsSchema);
     insertParameters(database, contents.parameters);
     insertSystems(database, contents.systems);
+    refused = insertConfigurations(database, contents.configurations);
   });
+  return refused;
 }
 
 void createArchive(const fs::path& file, const std::vector<DrawRow>& rows, Existing existing,
                    std::string_view password) {
+  std::vector<RegisteredDraw> draws;
+  draws.reserve(rows.size());
+  for (const DrawRow& row : rows) draws.push_back({.row = row, .registered = {}});
+  createRegisteredArchive(file, draws, existing, password);
+}
+
+void createRegisteredArchive(const fs::path& file, const std::vector<RegisteredDraw>& draws, Existing existing,
+                             std::string_view password) {
   createFile(file, FileKind::Archive, existing, password, [&](SQLite::Database& database) {
     database.exec(kArchiveSchema);
     database.exec(kDrawSumsSchema);
-    insertDraws(database, rows);
+    insertDraws(database, draws);
   });
 }
 
