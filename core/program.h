@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,18 @@ std::string_view programVersion();
 /// The folder of the user's data: XDG_DATA_HOME/trv5, or ~/.local/share/trv5.
 std::filesystem::path userDataFolder();
 
+/// Reading of files in the format of older installations. Empty functions: this program can't.
+struct OldFiles {
+  /// True for such a file.
+  std::function<bool(const std::filesystem::path& file)> recognised;
+  /// Makes a new archive out of an old one and tells what became of it; throws UserError.
+  struct Outcome {
+    std::string description;  ///< "archivio con 60 estrazioni, dal .. al .."
+    std::string notes;        ///< what the user should look at, "" for nothing
+  };
+  std::function<Outcome(const std::filesystem::path& old, const std::filesystem::path& fresh)> convertArchive;
+};
+
 /// The state of one run, from the start screen to the end. The archive in memory is replaced as a whole by each reload;
 /// the object stays, so references to it hold.
 struct Program {
@@ -41,6 +54,7 @@ struct Program {
   std::filesystem::path model, userFolder;
   /// Tells which screens this program has; the shell disables the buttons of the others. Empty: it has all of them.
   std::function<bool(std::string_view screen)> screenExists;
+  OldFiles oldFiles;
 
   std::filesystem::path PercorsoDbParametri, PercorsoDbArchivio;
   /// Open for the whole run. `DbArchivio` stays the one of the start when another archive is chosen later.

@@ -11,6 +11,7 @@
 #include "maintenance/formats/compressed_text.h"
 #include "maintenance/formats/published_history.h"
 #include "provision/demo_archive.h"
+#include "provision/old_conversion.h"
 #include "provision/shipped_contents.h"
 
 namespace trv5 {
@@ -34,6 +35,10 @@ Uso:
       anche compresso (gzip o zip), con una riga per ruota
           AAAA/MM/GG<TAB>RUOTA<TAB>n1<TAB>n2<TAB>n3<TAB>n4<TAB>n5
       ruote BA CA FI GE MI NA PA RM TO VE e RN per la Nazionale
+  trv5-data converti VECCHIO FILE
+      legge un archivio o un database principale nel formato Jet delle versioni
+      precedenti (serve il pacchetto mdbtools) e ne fa uno nuovo: le estrazioni,
+      o i parametri e le configurazioni. VECCHIO resta com'è
   trv5-data aiuto
       mostra questo testo (anche --help)
 
@@ -177,6 +182,13 @@ void makeArchiveOfHistory(const Request& request, std::ostream& output) {
   output << fmt::format("Creato \"{}\": archivio con {} estrazioni, {}.\n", file.string(), draws.size(), spanOf(draws));
 }
 
+void convert(const Request& request, std::ostream& output) {
+  const fs::path file = targetOf(request);
+  const StopsHeld held;
+  const Converted converted = convertOldFile(request.words[1], file, existing(request));
+  output << fmt::format("Creato \"{}\": {}.\n", file.string(), converted.description()) << converted.notes();
+}
+
 struct Command {
   std::string_view name;
   std::size_t files;
@@ -185,7 +197,8 @@ struct Command {
 constexpr Command kCommands[] = {{"modello", 1, makeModel},
                                  {"demo", 1, makeDemo},
                                  {"esporta-vuoto", 1, makeEmptyExport},
-                                 {"storico", 2, makeArchiveOfHistory}};
+                                 {"storico", 2, makeArchiveOfHistory},
+                                 {"converti", 2, convert}};
 
 void run(const Request& request, std::ostream& output) {
   if (request.words.empty()) throw UsageError("Manca il comando.");
