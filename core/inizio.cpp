@@ -86,9 +86,38 @@ void Inizio::ImpostaInizialix() {
     m_program.EstrazioneIniziale = numberOf(*first);
 }
 
+std::optional<std::filesystem::path> Inizio::readableArchive(const std::filesystem::path& chosen) {
+  const OldFiles& oldFiles = m_program.oldFiles;
+  if (!oldFiles.recognised || !oldFiles.recognised(chosen)) return chosen;
+  const bool wanted = shell().confirm({.text = fmt::format("Il file \"{}\" è nel formato delle versioni precedenti. "
+                                                           "Leggerlo e farne un archivio nuovo? Il file resta com'è.",
+                                                           chosen.string()),
+                                       .title = "Formato precedente",
+                                       .icon = Icon::Question});
+  if (!wanted) return chosen;
+  const auto fresh = shell().chooseSave({.title = "Archivio nuovo",
+                                         .folder = chosen.parent_path(),
+                                         .filter = "*.mdb",
+                                         .defaultExtension = "mdb",
+                                         .name = chosen.stem().string() + "-TRV5.mdb"});
+  if (!fresh) return std::nullopt;
+  const OldFiles::Outcome outcome = [&] {
+    const Hourglass hourglass(shell());
+    return oldFiles.convertArchive(chosen, *fresh);
+  }();
+  shell().status("Creato: " + outcome.description);
+  if (!outcome.notes.empty())
+    shell().message({.text = "Letto dal formato precedente: " + outcome.description,
+                     .title = "Formato precedente",
+                     .icon = Icon::Information,
+                     .reason = outcome.notes});
+  return fresh;
+}
+
 bool Inizio::SelezionaArchivio() {
-  const auto chosen = shell().chooseOpen(
+  auto chosen = shell().chooseOpen(
       {.title = "File di archivio (*.Mdb)", .folder = m_program.folder, .filter = "*.mdb", .defaultExtension = "Mdb"});
+  if (chosen) chosen = readableArchive(*chosen);
   if (!chosen) return false;
   // The choice serves this run even where it can't be stored; what couldn't be is told when all is done.
   std::string failure, details;

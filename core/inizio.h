@@ -25,6 +25,9 @@ class Inizio : public Form {
  private:
   void openArchive();
   void ImpostaInizialix();
+  /// The archive to use for a chosen file: itself, or for one in the format of older installations, if the user wants
+  /// so, a new archive made out of it. Nothing when that was given up. Throws UserError.
+  std::optional<std::filesystem::path> readableArchive(const std::filesystem::path& chosen);
   /// False when the dialog was cancelled. Throws UserError when the choice couldn't be stored; it serves this run then.
   bool SelezionaArchivio();
   void Procedi();

@@ -15,6 +15,7 @@
 #include "core/errors.h"
 #include "core/grid_text.h"
 #include "help/help_pages.h"
+#include "provision/old_conversion.h"
 #include "screens/kit/lazy_page.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/Container.h"
@@ -46,6 +47,7 @@ QtShell::~QtShell() {
 void QtShell::attach(Program& program) {
   m_program = &program;
   program.screenExists = [this](std::string_view screen) { return hasScreen(screen); };
+  program.oldFiles = oldFilesReader();
 }
 
 void QtShell::useSettings(const std::filesystem::path& file) {
