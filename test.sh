@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 phase() { printf '\n== %s (%d s)\n' "$*" "$SECONDS"; }
 
 phase "Packages"
-ensure_packages "${packages[@]}" clang-format python3-pyftpdlib
+ensure_packages "${packages[@]}" clang-format python3-pyftpdlib mdbtools
 
 phase "Sources"
 scripts/check_sources.sh
