@@ -46,19 +46,31 @@ function(trv5_layer name)
   target_link_libraries(trv5_${name} PUBLIC ${L_USES} ${L_LINKS} PRIVATE trv5_options)
 endfunction()
 
-# trv5_precompile(target header...): compiles the headers once for all sources of the target.
+# trv5_precompile(target header...): compiles the headers once for all sources of the target; with REUSE_FROM and another
+# target's name, those of that target serve.
 function(trv5_precompile target)
-  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(ARGV1 STREQUAL "REUSE_FROM")
+    target_precompile_headers(${target} ${ARGN})
+  else()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
   # The compiler cache looks for the precompiled header in the preprocessed source.
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()
 endfunction()
 
+# What is tested is optimised; optimising the tests themselves only costs time, under sanitizers three times as much.
+function(trv5_test_options target)
+  target_link_libraries(${target} PRIVATE trv5_options GTest::gtest_main GTest::gmock)
+  target_compile_options(${target} PRIVATE $<IF:$<BOOL:${TRV5_SANITIZE}>,-O0,-O1>)
+endfunction()
+
 # trv5_tests(engine USES engine): the test program of one folder of tests/, each test of it known to CTest by its name.
 # With LABEL its tests can be chosen by that; SUPPORT names other helpers than those that know the workbench.
+# PRECOMPILED names the headers to compile once for it; without, the test framework's serve, compiled once for all.
 function(trv5_tests name)
-  cmake_parse_arguments(T "" "LABEL;SUPPORT" "USES;LINKS" ${ARGN})
+  cmake_parse_arguments(T "" "LABEL;SUPPORT" "USES;LINKS;PRECOMPILED" ${ARGN})
   if(NOT T_SUPPORT)
     set(T_SUPPORT test_support)
   endif()
@@ -68,11 +80,14 @@ function(trv5_tests name)
   endif()
   add_executable(test_${name} ${sources})
   list(TRANSFORM T_USES PREPEND trv5_)
-  target_link_libraries(test_${name} PRIVATE ${T_USES} ${T_LINKS} trv5_options trv5_${T_SUPPORT} GTest::gtest_main
-                        GTest::gmock)
+  target_link_libraries(test_${name} PRIVATE ${T_USES} ${T_LINKS} trv5_${T_SUPPORT})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-  # What is tested is optimised; optimising the tests themselves only costs time, under sanitizers three times as much.
-  target_compile_options(test_${name} PRIVATE $<IF:$<BOOL:${TRV5_SANITIZE}>,-O0,-O1>)
+  trv5_test_options(test_${name})
+  if(T_PRECOMPILED)
+    trv5_precompile(test_${name} ${T_PRECOMPILED})
+  else()
+    trv5_precompile(test_${name} REUSE_FROM trv5_test_headers)
+  endif()
   gtest_discover_tests(test_${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" LABELS "${T_LABEL}"
                        DISCOVERY_MODE PRE_TEST)
 endfunction()
