@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "provision/draw_days.h"
+#include "maintenance/draw_days.h"
 
 namespace trv5 {
 namespace {

@@ -3,7 +3,7 @@
 #include "core/archive_load.h"
 #include "core/database.h"
 #include "maintenance/formats/exchange_files.h"
-#include "provision/draw_days.h"
+#include "maintenance/draw_days.h"
 #include "support/plain_exchange.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"

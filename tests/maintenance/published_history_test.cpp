@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "provision/draw_days.h"
+#include "maintenance/draw_days.h"
 
 namespace trv5 {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <set>
 
-#include "provision/draw_days.h"
+#include "maintenance/draw_days.h"
 
 namespace trv5 {
 namespace {

@@ -1,4 +1,4 @@
-#include "provision/draw_days.h"
+#include "maintenance/draw_days.h"
 
 #include <algorithm>
 #include <set>
