@@ -2,8 +2,8 @@
 
 #include "core/archive_load.h"
 #include "core/database.h"
-#include "maintenance/formats/exchange_files.h"
 #include "maintenance/draw_days.h"
+#include "maintenance/formats/exchange_files.h"
 #include "support/plain_exchange.h"
 #include "support/run_program.h"
 #include "support/temp_folder.h"
