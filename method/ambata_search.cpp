@@ -97,12 +97,12 @@ AmbataSearch::AmbataSearch(const AmbataRequest& request)
 
 AmbataSearch::~AmbataSearch() = default;
 
-std::vector<Candidate> AmbataSearch::run(const Outcomes& outcomes) const {
-  if (m_request.keep < 1 || m_request.wheelSets.empty()) return {};
+std::vector<Candidate> AmbataSearch::run(const Outcomes& outcomes, int keep) const {
+  if (keep < 1 || m_request.wheelSets.empty()) return {};
   DrawnAfterCases drawn(m_request, outcomes);
   const VoteRings rings = drawn.votes(m_request.wheelSets);
   const FormulaValues values = m_values->of(rings.cases());
-  Ranking ranking(m_request.keep);
+  Ranking ranking(keep);
   rankVotes(rings, values, fixesOf(m_request), ranking);
 
   std::vector<Candidate> candidates;

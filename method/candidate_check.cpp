@@ -6,6 +6,14 @@
 #include "method/elaboration.h"
 
 namespace trv5 {
+namespace {
+
+std::vector<CaseNumbers> numbersStandingAlone(const CandidateRequest& request) {
+  ParametriFormula carry;
+  return numbersInPlay(*request.archive, request.method.formulas, request.caseDraws, carry);
+}
+
+}  // namespace
 
 bool countsStandAlone(const CandidateRequest& request, const std::vector<FormulaRow>& candidates) {
   const auto alone = [](const FormulaRow& row) { return Formula(row).standsAlone(); };
@@ -16,19 +24,22 @@ bool countsStandAlone(const CandidateRequest& request, const std::vector<Formula
          !request.archive->repeatsNumbers();
 }
 
-CandidateCounts::CandidateCounts(const CandidateRequest& request) : m_archive(*request.archive) {
+CandidateCounts::CandidateCounts(const CandidateRequest& request)
+    : CandidateCounts(request, *request.archive, numbersStandingAlone(request)) {}
+
+CandidateCounts::CandidateCounts(const CandidateRequest& request, const Outcomes& outcomes,
+                                 const std::vector<CaseNumbers>& numbers)
+    : m_archive(*request.archive) {
   const PlayWindow window = request.method.window();
-  ParametriFormula carry;
-  const std::vector<CaseNumbers> numbers = numbersInPlay(m_archive, request.method.formulas, request.caseDraws, carry);
   // A forecast joins one number of each table below and the candidate's; a lunghetta, its own numbers and that one.
   const int joined = traitsOf(request.table).joinedTables;
   for (std::size_t i = 0; i < request.caseDraws.size(); ++i) {
     OneCase one{.draw = request.caseDraws[i], .leftOut = i < request.leftOut.size() && request.leftOut[i]};
     if (joined == 0)
-      one.counts = companionsOfAll(m_archive, one.draw, window, numbers[i][indexOf(request.table)].flags(),
-                                   request.method.sorte);
+      one.counts =
+          companionsOfAll(outcomes, one.draw, window, numbers[i][indexOf(request.table)].flags(), request.method.sorte);
     else if (!one.leftOut)
-      one.counts = companionsOfSets(m_archive, one.draw, window,
+      one.counts = companionsOfSets(outcomes, one.draw, window,
                                     std::span(numbers[i]).first(static_cast<std::size_t>(joined - 1)));
     m_cases.push_back(one);
   }
@@ -37,8 +48,12 @@ CandidateCounts::CandidateCounts(const CandidateRequest& request) : m_archive(*r
 Totals CandidateCounts::with(const FormulaRow& candidate) const {
   const Formula formula(candidate);
   ParametriFormula carry;
+  return with([&](int draw) { return formula.evaluate(m_archive, draw, carry); });
+}
+
+Totals CandidateCounts::with(const std::function<int(int draw)>& numberOf) const {
   Totals totals;
-  for (const OneCase& one : m_cases) totals.add(hits(one, formula.evaluate(m_archive, one.draw, carry)));
+  for (const OneCase& one : m_cases) totals.add(hits(one, numberOf(one.draw)));
   return totals;
 }
 

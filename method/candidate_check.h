@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "method/companion_counts.h"
@@ -25,9 +26,13 @@ bool countsStandAlone(const CandidateRequest& request, const std::vector<Formula
 class CandidateCounts {
  public:
   explicit CandidateCounts(const CandidateRequest& request);
+  /// The same on other outcomes, with the numbers that the method puts in play worked out before.
+  CandidateCounts(const CandidateRequest& request, const Outcomes& outcomes, const std::vector<CaseNumbers>& numbers);
 
   /// What the verification of the table would count with this formula behind its own.
   Totals with(const FormulaRow& candidate) const;
+  /// The same of a formula that gives `numberOf(draw)` on the draw of a case.
+  Totals with(const std::function<int(int draw)>& numberOf) const;
   /// The same without a candidate.
   Totals without() const;
 

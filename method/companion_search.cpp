@@ -19,11 +19,8 @@ int insideArchive(int draw) {
 
 class CompanionCount {
  public:
-  explicit CompanionCount(const CompanionRequest& request)
-      : m_request(request),
-        m_outcomes(*request.archive),
-        m_place(Archive::kMaxDraws + 1, -1),
-        m_used(Archive::kMaxDraws + 1) {}
+  CompanionCount(const CompanionRequest& request, const Outcomes& outcomes)
+      : m_request(request), m_outcomes(outcomes), m_place(Archive::kMaxDraws + 1, -1), m_used(Archive::kMaxDraws + 1) {}
 
   CompanionVotes votes() {
     for (const CompanionRow& row : m_request.rows) add(row);
@@ -75,19 +72,35 @@ class CompanionCount {
 
 }  // namespace
 
-std::vector<Candidate> searchCompanions(const CompanionRequest& request) {
-  if (request.keep < 1) return {};
-  const FormulaInput& formula = request.formula;
-  const CompanionVotes votes = CompanionCount(request).votes();
-  const VoteRings rings(votes.cc);
+CompanionSearch::CompanionSearch(const CompanionRequest& request)
+    : m_request(request), m_place(Archive::kMaxDraws + 1, -1) {
   std::vector<int> draws;
-  for (const int index : rings.cases()) draws.push_back(votes.draws[static_cast<std::size_t>(index)]);
-  const FormulaValues values(*request.archive, formula, draws,
-                             elementSets(formula.shape, SetOrder::ElementFirst, formula.triples));
+  for (const CompanionRow& row : request.rows) {
+    const int draw = insideArchive(row.caseDraw);
+    int& place = m_place[static_cast<std::size_t>(draw)];
+    if (place >= 0) continue;
+    place = static_cast<int>(draws.size());
+    draws.push_back(draw);
+  }
+  const FormulaInput& formula = request.formula;
+  m_values = std::make_unique<const FormulaValues>(*request.archive, formula, draws,
+                                                   elementSets(formula.shape, SetOrder::ElementFirst, formula.triples));
+}
+
+CompanionSearch::~CompanionSearch() = default;
+
+std::vector<Candidate> CompanionSearch::run(const Outcomes& outcomes, int keep) const {
+  if (keep < 1) return {};
+  const CompanionVotes votes = CompanionCount(m_request, outcomes).votes();
+  const VoteRings rings(votes.cc);
+  std::vector<int> places;
+  for (const int index : rings.cases())
+    places.push_back(m_place[static_cast<std::size_t>(votes.draws[static_cast<std::size_t>(index)])]);
+  const FormulaValues values = m_values->of(places);
   NumberFlags fixes{};
   fixes[90] = true;
-  Ranking ranking(request.keep);
-  rankVotes(rings, values, request.withFix ? request.allowedFix : fixes, ranking);
+  Ranking ranking(keep);
+  rankVotes(rings, values, m_request.withFix ? m_request.allowedFix : fixes, ranking);
 
   std::vector<Candidate> candidates;
   std::vector<std::uint8_t> residues(values.rowLength());
@@ -95,11 +108,15 @@ std::vector<Candidate> searchCompanions(const CompanionRequest& request) {
     const auto set = static_cast<std::size_t>(found.set);
     values.numbers(set, found.fix, residues.data());
     std::uint32_t pres = 0;
-    for (std::size_t i = 0; i < draws.size(); ++i)
+    for (std::size_t i = 0; i < places.size(); ++i)
       pres += votes.pres[static_cast<std::size_t>(rings.cases()[i])][residues[i]];
     candidates.push_back({values.set(set), found.fix, found.count, static_cast<int>(pres), 0});
   }
   return candidates;
+}
+
+std::vector<Candidate> searchCompanions(const CompanionRequest& request) {
+  return CompanionSearch(request).run(*request.archive, request.keep);
 }
 
 }  // namespace trv5

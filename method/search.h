@@ -86,7 +86,9 @@ class AmbataSearch {
   ~AmbataSearch();
 
   /// The ranking of searchAmbate on these outcomes.
-  std::vector<Candidate> run(const Outcomes& outcomes) const;
+  std::vector<Candidate> run(const Outcomes& outcomes) const { return run(outcomes, m_request.keep); }
+  /// The same with another number of rows.
+  std::vector<Candidate> run(const Outcomes& outcomes, int keep) const;
 
  private:
   AmbataRequest m_request;
@@ -119,6 +121,22 @@ struct CompanionRequest {
   NumberFlags allowedFix{};
   bool withFix = false;
   int keep = 0;
+};
+
+/// A search of companions whose element sets have been evaluated in all cases, to be run on any outcomes as often as
+/// wanted. The rows stay what they are, whether the outcomes hold their numbers or not.
+class CompanionSearch {
+ public:
+  explicit CompanionSearch(const CompanionRequest& request);
+  ~CompanionSearch();
+
+  /// The ranking of searchCompanions on these outcomes, so many rows of it.
+  std::vector<Candidate> run(const Outcomes& outcomes, int keep) const;
+
+ private:
+  CompanionRequest m_request;
+  std::vector<int> m_place;  // by draw: its place in m_values, -1 for a draw that is no case
+  std::unique_ptr<const FormulaValues> m_values;
 };
 
 /// The best formulas by CC, among equals the first by fix and element set.
