@@ -1,0 +1,49 @@
+#pragma once
+
+#include <vector>
+
+#include "chance/intervals.h"
+#include "chance/workers.h"
+#include "method/detection.h"
+#include "method/search.h"
+
+namespace trv5 {
+
+/// The draws of all cases of a situation from its reference draw back, however many; the oldest first.
+std::vector<int> allCases(const Archive& archive, Situation situation);
+
+/// What is walked through the archive: a search that sees only what was known at the time.
+struct ForwardRequest {
+  /// The search; its own cases and the length of its ranking aren't looked at. Cases whose colpi aren't over by its
+  /// `lastDraw` are no tests.
+  AmbataRequest search;
+  std::vector<int> cases = {};  ///< of the situation, the oldest first
+  int learnt = 30;              ///< cases that each search learns from, at least 1
+};
+
+/// A case that the formula found on the cases before it was played in.
+struct ForwardTest {
+  int draw = 0;       ///< of the case
+  Candidate formula;  ///< the first row of the search; its `cc` is the cover on the cases learnt from
+  int number = 0;     ///< that it gave, 1..90
+  int colpo = 0;      ///< of its first hit, 0 for none
+  double chance = 0;  ///< to be covered by any number fixed beforehand, by the wheel draws of play
+  /// Covered less expected so far, and the bounds that 95 of 100 archives drawn by luck keep at this test.
+  double ahead = 0, low = 0, high = 0;
+};
+
+struct ForwardFigures {
+  std::vector<ForwardTest> tests;  ///< the oldest first
+  int covered = 0;
+  double expected = 0;  ///< covered by luck, on average
+  double atLeast = 1;   ///< the chance of luck to cover as many or more
+  Interval share;       ///< of tests covered (Wilson)
+};
+
+/// Goes through the cases from the oldest on. A case is a test when at least `learnt` cases before it had their colpi
+/// over before its own draw, and it doesn't fall into the colpi of the test before, so that the tests don't hang on
+/// each other. Of the cases before, the last `learnt` are searched, and the first row plays in the colpi of the case.
+/// Cases with no wheel of play drawn, and searches that find nothing, are no tests. Stopped, it gives no test at all.
+ForwardFigures testForward(const ForwardRequest& request, const Workers& workers = {});
+
+}  // namespace trv5
