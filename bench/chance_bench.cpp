@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "bench_tools.h"
+#include "chance/formula_tally.h"
 #include "chance/forward_test.h"
 #include "chance/search_luck.h"
 #include "chance/whole_search.h"
@@ -75,6 +76,8 @@ void drawReplicas(std::shared_ptr<const RepeatedSearch> search) {
 void benchMaximum(const Archive& archive) {
   tell("999 replicas, 2N 2R on one wheel", 0.15,
        [&] { drawReplicas(repeatAmbate(ambataRequest(archive, Shape::TwoTwoWheels))); });
+  const auto search = repeatAmbate(ambataRequest(archive, Shape::TwoTwoWheels));
+  tell("999 replicas, all formulas of 2N 2R by their cover", 0.5, [&] { tallyLuck(*search, 1, kReplicas, 1); });
   tell("999 replicas, 1N 1R on the best three wheels", 0.5, [&] {
     AmbataRequest request = ambataRequest(archive, Shape::OneNumber);
     request.wheelSets = plainWheelSets(3);

@@ -47,6 +47,9 @@ class Ambate : public RepeatedSearch {
   std::vector<CountedRow> run(const Outcomes& outcomes, int keep) const override {
     return countedRows(m_search.run(outcomes, keep));
   }
+  std::vector<std::int64_t> tally(const Outcomes& outcomes, int least) const override {
+    return m_search.tally(outcomes, least);
+  }
 
  private:
   AmbataSearch m_search;
@@ -160,6 +163,17 @@ class VerifiedCompanions : public RepeatedSearch {
 };
 
 }  // namespace
+
+std::vector<std::int64_t> RepeatedSearch::tally(const Outcomes& outcomes, int least) const {
+  std::vector<std::int64_t> formulas;
+  for (const CountedRow& row : run(outcomes, m_keep)) {
+    if (row.count < least) continue;
+    if (static_cast<std::size_t>(row.count) >= formulas.size())
+      formulas.resize(static_cast<std::size_t>(row.count) + 1);
+    ++formulas[static_cast<std::size_t>(row.count)];
+  }
+  return formulas;
+}
 
 std::shared_ptr<const RepeatedSearch> repeatAmbate(const AmbataRequest& request) {
   return std::make_shared<const Ambate>(request);

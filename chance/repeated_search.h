@@ -25,6 +25,9 @@ class RepeatedSearch {
 
   /// The first rows of the ranking by count, `keep` of them if there are so many.
   virtual std::vector<CountedRow> run(const Outcomes& outcomes, int keep) const = 0;
+  /// How many formulas cover each number of cases, by cases, from `least` (1 or more) on: of all formulas, or where a
+  /// search counts its candidates anew, of those.
+  virtual std::vector<std::int64_t> tally(const Outcomes& outcomes, int least) const;
 
   const Redraw& redraw() const { return m_redraw; }
   /// Rows that the user's ranking has at most.

@@ -3,6 +3,7 @@
 #include "method/drawn_numbers.h"
 #include "method/search.h"
 #include "method/vote_counter.h"
+#include "method/vote_tally.h"
 
 namespace trv5 {
 namespace {
@@ -119,6 +120,12 @@ std::vector<Candidate> AmbataSearch::run(const Outcomes& outcomes, int keep) con
     candidates.push_back(candidate);
   }
   return candidates;
+}
+
+std::vector<std::int64_t> AmbataSearch::tally(const Outcomes& outcomes, int least) const {
+  if (m_request.wheelSets.empty()) return {};
+  const VoteRings rings = DrawnAfterCases(m_request, outcomes).votes(m_request.wheelSets);
+  return tallyVotes(rings, m_values->of(rings.cases()), fixesOf(m_request), least);
 }
 
 std::vector<Candidate> searchAmbate(const AmbataRequest& request) {

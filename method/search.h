@@ -90,6 +90,9 @@ class AmbataSearch {
   /// The same with another number of rows.
   std::vector<Candidate> run(const Outcomes& outcomes, int keep) const;
 
+  /// How many of all formulas cover each number of cases, from `least` (1 or more) on: by cases, 0 below `least`.
+  std::vector<std::int64_t> tally(const Outcomes& outcomes, int least) const;
+
  private:
   AmbataRequest m_request;
   std::unique_ptr<const FormulaValues> m_values;
