@@ -6,6 +6,7 @@
 
 #include "chance/hypergeometric.h"
 #include "chance/poisson_binomial.h"
+#include "chance/search_luck.h"
 #include "chance_world.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
@@ -75,6 +76,39 @@ TEST(FormulaTally, IsTheSameForAnyNumberOfThreadsAndStops) {
   std::stop_source stop;
   stop.request_stop();
   EXPECT_TRUE(tallyLuck(*search, 1, 100, 8, {.stop = stop.get_token()}).empty());
+}
+
+TEST(FormulaTally, GoesOnPieceByPieceToTheSameFigures) {
+  std::mt19937 rng(2);
+  const Archive archive = fullArchive(rng, 250);
+  const auto search = repeatAmbate(searchOn(archive, 20, 12, 9));
+  FormulaTally tally(search, 1, 1);
+  std::stop_source stop;
+  stop.request_stop();
+  for (const int replicas : {7, 8, 60, 40, 100}) {
+    tally.draw(replicas, {.stop = stop.get_token()});
+    tally.draw(replicas, {.threads = 1 + replicas % 3});
+  }
+  EXPECT_EQ(tally.replicas(), 100);
+  const auto whole = tallyLuck(*search, 1, 100, 1), pieces = tally.rows();
+  ASSERT_EQ(pieces.size(), whole.size());
+  for (std::size_t i = 0; i < whole.size(); ++i) {
+    EXPECT_EQ(pieces[i].own, whole[i].own);
+    EXPECT_EQ(pieces[i].byLuck, whole[i].byLuck);
+  }
+}
+
+TEST(FormulaTally, KnowsTheBestOfEachReplicaAsTheSimulatedMaximumDoes) {
+  std::mt19937 rng(4);
+  const Archive archive = fullArchive(rng, 250);
+  const auto search = repeatAmbate(searchOn(archive, 20, 12, 9));
+  FormulaTally tally(search, 3, 1);
+  tally.draw(100);
+  SearchLuck luck(search, 3);
+  luck.draw(100);
+  EXPECT_EQ(tally.replicasByBest(), luck.figures().replicasByBest);
+  EXPECT_EQ(tally.best(), luck.figures().best);
+  EXPECT_DOUBLE_EQ(tally.mean(), luck.figures().mean);
 }
 
 TEST(FormulaTally, OfOtherSearchesCountsTheirRows) {
