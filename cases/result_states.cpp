@@ -58,23 +58,6 @@ std::vector<std::string> listedConfigurations(const Workbench& w) {
   return listed;
 }
 
-// What an operation would find chosen now.
-Origin chosenNow(const Workbench& w) {
-  Origin now;
-  now.situation = chosenSituation(w);
-  now.cases = caseDraws(w);
-  now.wheels = greenWheels(w);
-  now.colpi = w.ComboColpi.number();
-  now.reference = w.EstrazioneRiferimento;
-  now.archiveEnd = w.archive.UltimaEstrazione();
-  now.sorte = w.ComboSorte.number();
-  for (const TableTraits& table : kTables) now.formulas[indexOf(table.table)] = formulasOf(w, table.table);
-  now.summary = {w.ChA.checked(), w.ChB.checked(), w.ChC.checked(), w.Ch1esito.checked()};
-  now.configurations = listedConfigurations(w);
-  now.grouping = w.origins.groupings;
-  return now;
-}
-
 Origin tableOrigin(const Workbench& w, Table table) {
   Origin origin = casesOrigin(w);
   origin.wheels = w.RuoteGioco;
@@ -202,6 +185,22 @@ void showReference(Workbench& w) {
 }
 
 }  // namespace
+
+Origin chosenNow(const Workbench& w) {
+  Origin now;
+  now.situation = chosenSituation(w);
+  now.cases = caseDraws(w);
+  now.wheels = greenWheels(w);
+  now.colpi = w.ComboColpi.number();
+  now.reference = w.EstrazioneRiferimento;
+  now.archiveEnd = w.archive.UltimaEstrazione();
+  now.sorte = w.ComboSorte.number();
+  for (const TableTraits& table : kTables) now.formulas[indexOf(table.table)] = formulasOf(w, table.table);
+  now.summary = {w.ChA.checked(), w.ChB.checked(), w.ChC.checked(), w.Ch1esito.checked()};
+  now.configurations = listedConfigurations(w);
+  now.grouping = w.origins.groupings;
+  return now;
+}
 
 Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit) {
   Origin origin = tableOrigin(w, table);

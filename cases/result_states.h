@@ -47,6 +47,9 @@ void noteConvergences(Workbench& w);
 /// After `FgRit` has been filled; `ofCases`: from what was drawn after the cases.
 void noteDelays(Workbench& w, bool ofCases);
 
+/// What an operation would find chosen now.
+Origin chosenNow(const Workbench& w);
+
 /// What the hits of a verification of that table would be made from now.
 Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit = false);
 

@@ -23,6 +23,7 @@
 
 namespace trv5 {
 
+class SearchLuckLine;
 class Workbench;
 
 /// A button of the workbench: what the user reads and what it does. Its name is the control's.
@@ -109,6 +110,10 @@ class Workbench : public Form, public WorkbenchState {
       ChVerifica{*this, "ChVerifica", "Verifica automatica", "Verifica la tabella a ogni previsione aggiunta"};
   GridControl FgF{*this, "FgF", rankingHeading()};                       ///< the ranked candidates
   ControlArray<Button> Cmd_LaSorte{*this, "Cmd_LaSorte", {1, 2, 3, 6}};  ///< 1, 2, 3, 6
+  Check Ch_Caso{*this, "Ch_Caso", "a ogni ricerca", "Dopo ogni ricerca dice quanto è merito del caso"};
+  /// How much of the ranking is luck, with the number of searches tried on these cases; the sentence by itself in a
+  /// shorter form, and that number. No part of a state: figures of luck are worked out anew, never put back.
+  Label LblCaso{*this, "LblCaso"}, LblCasoBreve{*this, "LblCasoBreve"}, LblRicerche{*this, "LblRicerche"};
 
   // Forecasts.
   Tabs SSTab3{*this,
@@ -169,6 +174,8 @@ class Workbench : public Form, public WorkbenchState {
 
   /// Keeps alive what runs after every operation.
   std::shared_ptr<void> settled;
+  /// Sets the searches beside luck; null for a workbench that doesn't.
+  std::shared_ptr<SearchLuckLine> luck;
 
  private:
   std::vector<std::unique_ptr<Button>> m_buttons;

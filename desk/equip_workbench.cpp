@@ -9,6 +9,7 @@
 #include "desk/workbench_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
+#include "engine/search_luck_line.h"
 #include "followup/case_forecasts.h"
 #include "followup/grouping.h"
 #include "followup/information.h"
@@ -59,6 +60,7 @@ void equipWorkbench(Workbench& w) {
   connectInformation(w);
   connectUndo(w);
   connectResultStates(w);
+  connectLuck(w);
 }
 
 void connectDatabase(Workbench& w, const Program& program) {

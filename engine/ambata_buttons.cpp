@@ -10,6 +10,7 @@
 #include "engine/evaluation.h"
 #include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
+#include "engine/search_luck_line.h"
 
 namespace trv5 {
 namespace {
@@ -92,6 +93,7 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
                   .shape = button.shape,
                   .wheelsOfSet = button.wheelsOfSet,
                   .cases = static_cast<int>(request.cases.size())});
+  noteSearch(w, rankedAmbate(w, request, button.wheelsOfSet));
   if (!ranking.empty()) chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: " + counted(static_cast<int>(ranking.size()), "formula", "formule"));

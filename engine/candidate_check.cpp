@@ -11,7 +11,6 @@
 #include "engine/colouring.h"
 #include "engine/formula_tables.h"
 #include "engine/verification.h"
-#include "method/candidate_check.h"
 
 namespace trv5 {
 namespace {
@@ -86,11 +85,7 @@ class Run {
     takeShownCounts();
     m_w.shell().progress(0, m_w.FgF.dataRows());
 
-    m_request = {.archive = &m_w.archive, .method = methodOf(m_w), .table = m_table, .caseDraws = caseDraws(m_w)};
-    if (m_w.Ch_Scoperti.checked())
-      for (int row = 1; row < m_w.FgEv.rows(); ++row)
-        m_request.leftOut.push_back(m_w.CasiEsclusi[static_cast<std::size_t>(row)]);
-    if (!m_traits.keepsTable) own().clear();
+    m_request = candidateRequest(m_w, m_table);
     m_refused = static_cast<int>(own().size()) > traitsOf(m_table).mostFormulas;
     if (m_refused) verifyTable();  // its message, once a press
     if (!m_refused && countsStandAlone(m_request, m_candidates)) m_byTables.emplace(m_request);
@@ -183,6 +178,15 @@ class Run {
 };
 
 }  // namespace
+
+CandidateRequest candidateRequest(const Workbench& w, Table table) {
+  CandidateRequest request = {.archive = &w.archive, .method = methodOf(w), .table = table, .caseDraws = caseDraws(w)};
+  if (w.Ch_Scoperti.checked())
+    for (int row = 1; row < w.FgEv.rows(); ++row)
+      request.leftOut.push_back(row <= kMostCases && isCovered(w, row, traitsOf(table).markColumn));
+  if (!ccTraits(table).keepsTable) request.method.of(table).clear();
+  return request;
+}
 
 void VerificaCandidati(Workbench& w, Table table) {
   if (!w.FgF.hasData()) {

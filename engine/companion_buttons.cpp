@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "cases/formula_rows.h"
 #include "core/text.h"
@@ -13,6 +14,7 @@
 #include "engine/lunghetta.h"
 #include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
+#include "engine/search_luck_line.h"
 
 namespace trv5 {
 namespace {
@@ -76,7 +78,9 @@ void CercaCompagni(Workbench& w, const CompanionButton& button) {
   writeAllRows(w, kNr, button.nr);
   writeAllRows(w, kQn, button.qn);
   noteRanking(w, {.table = button.table, .shape = button.shape});
+  RankedSearch ranked = rankedCompanions(w, request, button.table);
   closeCompanionSearch(w, button.table);
+  noteSearch(w, std::move(ranked));
 }
 
 void closeCompanionSearch(Workbench& w, Table table) {

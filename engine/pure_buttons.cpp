@@ -13,6 +13,7 @@
 #include "engine/lunghetta.h"
 #include "engine/ranking_origin.h"
 #include "engine/search_frame.h"
+#include "engine/search_luck_line.h"
 
 namespace trv5 {
 namespace {
@@ -96,6 +97,8 @@ void CercaNumeri(Workbench& w, int wheelsOfSet) {
   writeAllRows(w, kQn, "1");
   ColoraFgF(w);
   noteRanking(w, {.wheelsOfSet = wheelsOfSet, .cases = static_cast<int>(cases.size())});
+  // Of the best wheels the list keeps what its last passes left, which no other archive can be set beside.
+  noteSearch(w, wheelsOfSet == 0 ? rankedNumbers(w, cases) : RankedSearch());
   chooseFirstCandidate(w);
   addTime(w);
   w.shell().status("Ricerca: 90 numeri");
@@ -126,6 +129,7 @@ void CercaNumeriCompagni(Workbench& w, Table table) {
   writeAllRows(w, kQn, "0");
   noteRanking(w, {.table = table});
   closeCompanionSearch(w, table);
+  noteSearch(w, {});
 }
 
 }  // namespace trv5

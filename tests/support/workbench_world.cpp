@@ -11,6 +11,7 @@ namespace trv5 {
 
 WorkbenchWorld::WorkbenchWorld(Archive draws) : archive(std::move(draws)), w(archive, shell) {
   equipWorkbench(w);
+  w.Ch_Caso.set(false);  // a thousand archives for each search are drawn where a test asks for them
   ApreBanco(w);
 }
 
