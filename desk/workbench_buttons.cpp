@@ -10,6 +10,7 @@
 #include "core/numbers.h"
 #include "engine/ambata_buttons.h"
 #include "engine/candidate_check.h"
+#include "engine/caso.h"
 #include "engine/colouring.h"
 #include "engine/companion_buttons.h"
 #include "engine/evaluation.h"
@@ -81,6 +82,8 @@ constexpr WorkbenchButton kRicerca[] = {
     {"Cmd_Colora_fgf", "Colora grid", "", run<ColoraFgF>},
     {"Command22", "Verifica riga selezionata", "Verifica la riga della ricerca senza aggiungerla",
      run<verificaRigaRicerca>},
+    {"Cmd_Caso", "Quanto è merito del caso?", "Quanto è merito del caso? Confronta la ricerca con archivi sorteggiati",
+     run<MostraMeritoCaso>},
 };
 
 constexpr WorkbenchButton kRicercaPaginaAmbate[] = {

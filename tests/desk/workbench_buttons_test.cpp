@@ -9,6 +9,7 @@
 #include <string>
 
 #include "cases/case_map.h"
+#include "engine/caso.h"
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "support/archive_builder.h"
@@ -31,7 +32,7 @@ TEST(WorkbenchButtons, StandOnceEachAndReachTheWorkbench) {
       EXPECT_TRUE(row.run == nullptr || button.toolTip() == row.toolTip) << row.name;
     }
   }
-  EXPECT_EQ(names.size(), 124U);
+  EXPECT_EQ(names.size(), 125U);
 }
 
 TEST(WorkbenchButtons, OpenTheTabsThatHaveAnOperationToOffer) {
@@ -81,6 +82,7 @@ class EveryButton : public testing::Test {
     auto world = std::make_unique<WorkbenchWorld>(randomArchive(rng, 120));
     WorkbenchWorld& w = *world;
     w.shell.addScreen("ElencoRiscontri", [&w] { return std::make_unique<ElencoRiscontri>(w.shell); });
+    w.shell.addScreen("Caso", [&w] { return std::make_unique<Caso>(w.shell); });
     w.shell.addScreen("EvoluzioneGrafica", [&w] { return std::make_unique<EvoluzioneGrafica>(w.shell); });
     w.shell.addScreen("Estrazioni_minielenco", [&w] {
       auto list = std::make_unique<MiniList>(w.archive, w.shell);
@@ -153,7 +155,8 @@ TEST_F(EveryButton, ThatNeedsARowAsksForIt) {
       {"Command30", "Nessuna formula da copiare in Lunghetta"},
       {"Command56", "Ricerca senza esiti: elabora prima la lunghetta con >>"},
       {"Command64", "Nessuna ricerca da riverificare"},
-      {"Cmd_Colora_fgf", "Nessuna ricerca da colorare"}};
+      {"Cmd_Colora_fgf", "Nessuna ricerca da colorare"},
+      {"Cmd_Caso", "Nessuna ricerca da confrontare col caso: prima premi una ricerca"}};
   for (const auto& [name, text] : wanted) {
     const auto world = newWorld();
     world->press(name.c_str());
