@@ -14,10 +14,10 @@ struct BarChart {
     double height = 0;     ///< 0 or more, in any unit that all of them share
     bool reaches = false;  ///< in the colour of what is the user's or reaches it
   };
-  std::vector<Bar> bars;
-  int own = -1;       ///< the bar that `ownText` points at; -1: none
-  QString ownText;    ///< "la tua: 16 casi"
-  bool rare = false;  ///< the own label stands on the colour of what is covered
+  std::vector<Bar> bars = {};
+  int own = -1;          ///< the bar that `ownText` points at; -1: none
+  QString ownText = {};  ///< "la tua: 16 casi"
+  bool rare = false;     ///< the own label stands on the colour of what is covered
 };
 
 /// A curve along equal steps, beside its expectation (0) and the band around it.
@@ -29,9 +29,9 @@ struct CurveChart {
     int step = 0;  ///< 0: before the first point
     QString text;
   };
-  std::vector<Point> points;      ///< the first is step 1; at step 0 all is 0
-  std::vector<Tick> ticks;        ///< along the axis, ascending; those that find no room are left out
-  QString curve, expected, band;  ///< the legend
+  std::vector<Point> points = {};                ///< the first is step 1; at step 0 all is 0
+  std::vector<Tick> ticks = {};                  ///< along the axis, ascending; those that find no room are left out
+  QString curve = {}, expected = {}, band = {};  ///< the legend
 };
 
 /// A chart as a sheet of paper, white in every theme like the grids: a band with its title, and below it bars or a

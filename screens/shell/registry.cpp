@@ -9,6 +9,8 @@
 #include "core/inizio.h"
 #include "core/verifica_archivio.h"
 #include "desk/equip_workbench.h"
+#include "engine/caso.h"
+#include "screens/Caso.h"
 #include "screens/DiDiSO.h"
 #include "screens/ElencoRiscontri.h"
 #include "screens/Estrazioni_minielenco.h"
@@ -71,6 +73,7 @@ std::vector<ScreenEntry> allScreens() {
       loaded<SistemiOrtogonali>(entry<SistemiOrtogonali, SistemiOrtogonaliScreen>("SistemiOrtogonali", Place::Fills)),
       entry<ElencoRiscontri, ElencoRiscontriScreen>("ElencoRiscontri", Place::Framed, {760, 560}),
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed),
+      entry<Caso, CasoScreen>("Caso", Place::Framed, {760, 560}),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
       loaded<ImportExport>(entry<ImportExport, ImportExportScreen>("ImportExport", Place::Framed, {760, 560})),
       loaded<FunzioniAggiuntive>(

@@ -8,12 +8,14 @@
 #include <QResizeEvent>
 #include <QStackedWidget>
 
+#include "engine/search_luck_line.h"
 #include "screens/kit/bindings.h"
 #include "screens/kit/icons.h"
 #include "screens/kit/ink.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
 #include "screens/workbench/formula_samples.h"
+#include "screens/workbench/luck_foot.h"
 
 namespace trv5 {
 namespace {
@@ -91,8 +93,10 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
          kit.joined({names[5]}));
   body()->addWidget(m_pages);
 
-  m_candidates =
-      kit.grid("FgF", {.name = QStringLiteral("Formule trovate"), .samples = formulaSamples(), .tight = true});
+  m_candidates = kit.grid("FgF", {.name = QStringLiteral("Formule trovate"),
+                                  .samples = formulaSamples(),
+                                  .tight = true,
+                                  .toolTip = [&w](int at, int column) { return qs(rankingCellText(w, at, column)); }});
   body()->addWidget(m_candidates, 1);
   // A search ends with its first candidate current: where the list stood before is of no use any more.
   for (auto* const button : m_pages->findChildren<QAbstractButton*>())
@@ -110,6 +114,8 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
     adding.emplace_back(button);
   }
   body()->addLayout(flow({holding(row(adding)), kit.check("ChVerifica", 'V')}, {kit.button("Command22")}));
+  body()->addWidget(separator(Qt::Horizontal));
+  body()->addWidget(new LuckFoot(w));
 }
 
 QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
