@@ -110,7 +110,7 @@ class Workbench : public Form, public WorkbenchState {
       ChVerifica{*this, "ChVerifica", "Verifica automatica", "Verifica la tabella a ogni previsione aggiunta"};
   GridControl FgF{*this, "FgF", rankingHeading()};                       ///< the ranked candidates
   ControlArray<Button> Cmd_LaSorte{*this, "Cmd_LaSorte", {1, 2, 3, 6}};  ///< 1, 2, 3, 6
-  Check Ch_Caso{*this, "Ch_Caso", "a ogni ricerca", "Dopo ogni ricerca dice quanto è merito del caso"};
+  Check Ch_Caso{*this, "Ch_Caso", "a ogni ricerca", "A ogni ricerca dice quanto è merito del caso"};
   /// How much of the ranking is luck, with the number of searches tried on these cases; the sentence by itself in a
   /// shorter form, and that number. No part of a state: figures of luck are worked out anew, never put back.
   Label LblCaso{*this, "LblCaso"}, LblCasoBreve{*this, "LblCasoBreve"}, LblRicerche{*this, "LblRicerche"};

@@ -25,6 +25,8 @@ namespace {
 constexpr int kWide = 1600 - 52;
 // From here on the bars of the statistics have their told width beside all tabs of the forecasts.
 constexpr int kRoomy = 1700;
+// From here on the sentence on luck has its width beside the buttons of the foot of Ricerca.
+constexpr int kSentence = 1850;
 
 QSplitter* splitterOf(Qt::Orientation orientation, std::initializer_list<QWidget*> parts, int growing) {
   auto* const splitter = new QSplitter(orientation);
@@ -175,6 +177,7 @@ bool Sommativi1Screen::layOut() {
   const bool wide = width() >= scaled(kWide);
   m_bar->setWide(wide);
   m_pages->setSideBySide(wide);
+  m_search->setNarrow(wide && width() < scaled(kSentence));
   m_forecasts->setWide(wide);
   m_statistics->setWide(wide, wide && width() >= scaled(kRoomy));
   // Handles are set from the outside in, each splitter at its own new size: pages that have just changed places would

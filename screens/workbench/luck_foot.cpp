@@ -13,16 +13,14 @@
 namespace trv5 {
 namespace {
 
-// The commands of the foot, and what stands for each in a low window.
+// The commands of the foot, and what stands for each where there is little room.
 struct Command {
   const char* name;
   const char* icon;
 };
 constexpr Command kCommands[] = {{"Cmd_Caso", "die"}};
 
-bool compact() {
-  return Theme::current().density() == Theme::Density::Compact;
-}
+constexpr int kLeastTarget = 24;  // pixels of what is clicked
 
 void restyle(QWidget& widget) {
   widget.style()->unpolish(&widget);
@@ -50,7 +48,7 @@ LuckText::LuckText(Workbench& w, QWidget* parent) : QLabel(parent), m_w(w) {
 
 QSize LuckText::sizeHint() const {
   const QFontMetrics metrics(Theme::current().small());
-  return {0, compact() ? metrics.height() : 2 * metrics.lineSpacing()};
+  return {0, m_low ? metrics.height() : 2 * metrics.lineSpacing()};
 }
 
 void LuckText::paintEvent(QPaintEvent*) {
@@ -61,7 +59,7 @@ void LuckText::paintEvent(QPaintEvent*) {
   const QFontMetrics metrics(font);
   painter.setFont(font);
   painter.setPen(toColor(c.text));
-  if (compact()) {
+  if (m_low) {
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(qs(m_w.LblCasoBreve.text()), Qt::ElideRight, width()));
     return;
@@ -89,25 +87,36 @@ void LuckText::paintEvent(QPaintEvent*) {
 }
 
 LuckFoot::LuckFoot(Workbench& w, QWidget* parent)
-    : QWidget(parent), m_always(nullptr), m_text(new LuckText(w)), m_grid(new QGridLayout(this)) {
+    : QWidget(parent), m_w(w), m_always(nullptr), m_text(new LuckText(w)), m_grid(new QGridLayout(this)) {
   Kit kit(w);
   for (const Command& command : kCommands) m_commands.push_back(kit.button(command.name));
   m_always = kit.check("Ch_Caso");
   m_grid->setContentsMargins(0, 0, 0, 0);
-  const auto follow = [this, &w] {
-    for (std::size_t i = 0; i < m_commands.size(); ++i)
-      showAs(*m_commands[i], w.button(kCommands[i].name), kCommands[i].icon, compact());
-    m_always->setText(compact() ? QString() : qs(w.Ch_Caso.caption()));
-    m_always->setProperty("iconOnly", compact());
-    m_always->setToolTip(compact() ? qs(w.Ch_Caso.caption()) : qs(w.Ch_Caso.toolTip()));
-    m_always->setAccessibleName(qs(w.Ch_Caso.caption()));
-    arrange();
-  };
-  withTheme(*this, follow);
+  withTheme(*this, [this] { follow(); });
+}
+
+void LuckFoot::setNarrow(bool narrow) {
+  if (m_narrow == narrow) return;
+  m_narrow = narrow;
+  follow();
+}
+
+void LuckFoot::follow() {
+  m_text->m_low = m_narrow || Theme::current().density() == Theme::Density::Compact;
+  for (std::size_t i = 0; i < m_commands.size(); ++i)
+    showAs(*m_commands[i], m_w.button(kCommands[i].name), kCommands[i].icon, m_text->m_low);
+  const QString caption = qs(m_w.Ch_Caso.caption());
+  m_always->setText(m_text->m_low ? QString() : caption);
+  m_always->setProperty("iconOnly", m_text->m_low);
+  m_always->setAccessibleName(caption);
+  m_always->setMinimumWidth(m_text->m_low ? kLeastTarget : 0);
+  m_text->updateGeometry();
+  m_text->update();
+  arrange();
 }
 
 void LuckFoot::arrange() {
-  const bool low = compact();
+  const bool low = m_text->m_low;
   const int unit = Theme::current().unit(), commands = static_cast<int>(m_commands.size());
   for (QPushButton* const command : m_commands) m_grid->removeWidget(command);
   m_grid->removeWidget(m_always);

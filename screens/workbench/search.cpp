@@ -115,7 +115,8 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
   }
   body()->addLayout(flow({holding(row(adding)), kit.check("ChVerifica", 'V')}, {kit.button("Command22")}));
   body()->addWidget(separator(Qt::Horizontal));
-  body()->addWidget(new LuckFoot(w));
+  m_foot = new LuckFoot(w);
+  body()->addWidget(m_foot);
 }
 
 QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
@@ -159,6 +160,10 @@ void WorkbenchSearch::walk(const QWidget* from, int step) {
 
 void WorkbenchSearch::goToCandidates() {
   if (m_w.FgF.hasData()) m_candidates->setFocus(Qt::OtherFocusReason);
+}
+
+void WorkbenchSearch::setNarrow(bool narrow) {
+  m_foot->setNarrow(narrow);
 }
 
 int WorkbenchSearch::heightFor(int candidates, int width) const {

@@ -12,6 +12,7 @@ class QStackedWidget;
 namespace trv5 {
 
 class GridView;
+class LuckFoot;
 
 /// Ricerca: the inputs of a search beside its buttons, the ranked candidates, and what takes one of them into a table.
 class WorkbenchSearch : public Panel {
@@ -24,6 +25,8 @@ class WorkbenchSearch : public Panel {
   /// Puts the focus on the search buttons: arrows walk them, Enter searches and goes to the candidates.
   void focusSearches();
 
+  /// Other panels leave it no more width than its buttons need.
+  void setNarrow(bool narrow);
   /// The height at which so many candidates are in sight, at that width.
   int heightFor(int candidates, int width) const;
   /// As high as its rows are where they wrap at the width of the moment.
@@ -43,6 +46,7 @@ class WorkbenchSearch : public Panel {
   QLabel* m_title;
   QStackedWidget* m_pages;
   GridView* m_candidates;
+  LuckFoot* m_foot = nullptr;
 };
 
 }  // namespace trv5

@@ -17,9 +17,9 @@
 namespace trv5 {
 namespace {
 
-const std::set<std::string> kPlaceless = {"FgZ100",     "Fg99",      "FgDett",    "FgS1",     "FgS2",
-                                          "FgS3",       "FgS4",      "FgS5",      "FgS6",     "FgSort",
-                                          "Command117", "Command94", "Command95", "Command69"};
+const std::set<std::string> kPlaceless = {
+    "FgZ100", "Fg99",   "FgDett",     "FgS1",      "FgS2",      "FgS3",      "FgS4",         "FgS5",
+    "FgS6",   "FgSort", "Command117", "Command94", "Command95", "Command69", "LblCasoBreve", "LblRicerche"};
 
 bool isText(const QWidget& widget) {
   return qobject_cast<const QAbstractButton*>(&widget) != nullptr || qobject_cast<const QLabel*>(&widget) != nullptr ||
