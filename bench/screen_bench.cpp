@@ -83,7 +83,10 @@ void prepare(WorkbenchWorld& world) {
   world.press("Command44");
 }
 
-void benchSearches(WorkbenchWorld& world, Sommativi1Screen& screen) {
+// `luck`: as the program does it, with the luck of the search to be worked out when the user sees the candidates.
+void benchSearches(WorkbenchWorld& world, Sommativi1Screen& screen, bool luck) {
+  world.shell.holdSteps = true;
+  world.w.Ch_Caso.set(luck);
   auto& view = *screen.findChild<GridView*>(QStringLiteral("FgF"));
   Paintings paintings(*view.viewport());
   for (const auto& [button, name] : {std::pair("Command20", "1N 1R"), std::pair("Command23", "2N 1R"),
@@ -97,8 +100,10 @@ void benchSearches(WorkbenchWorld& world, Sommativi1Screen& screen) {
         },
         kSeconds);
     requirePicture(paintings, before, name);
-    tell(fmt::format("click on {} to {} painted candidates", name, world.w.FgF.dataRows()), seconds * 1e3,
-         kMostOfSearch);
+    g_good = g_good && world.shell.steps.empty() != luck;
+    world.shell.steps.clear();
+    tell(fmt::format("click on {} to {} painted candidates{}", name, world.w.FgF.dataRows(), luck ? ", luck" : ""),
+         seconds * 1e3, kMostOfSearch);
   }
 }
 
@@ -230,7 +235,7 @@ int run(int argc, char** argv) {
   prepare(world);
   showAll();
   fmt::print("{} cases\n", world.w.FgEv.dataRows());
-  benchSearches(world, screen);
+  for (const bool luck : {false, true}) benchSearches(world, screen, luck);
   benchHits(world, screen);
   benchDraw(world.w.archive);
   return g_good ? 0 : 1;
