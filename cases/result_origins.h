@@ -2,9 +2,11 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "cases/last_search.h"
 #include "cases/origin.h"
 
 namespace trv5 {
@@ -20,6 +22,8 @@ struct ResultOrigins {
   std::vector<int> counted;
   /// The search that filled `FgF`: section, shape, operator, cases, wheels.
   std::string ranking;
+  /// The same where it can be run again on other cases.
+  std::optional<LastSearch> lastSearch;
   /// How often all saved methods have been run.
   int groupings = 0;
 

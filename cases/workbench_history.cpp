@@ -31,6 +31,9 @@ std::size_t bytesOf(const std::vector<Origin>& origins) {
 
 std::size_t bytesOf(const ResultOrigins& origins) {
   std::size_t bytes = origins.ranking.capacity();
+  if (const auto& search = origins.lastSearch)
+    bytes += search->name.capacity() + search->request.cases.capacity() * sizeof(int) +
+             search->request.wheelSets.capacity() * sizeof(WheelSet);
   for (const auto& [grid, made] : origins.made) bytes += sizeof made + sizeof grid + bytesOf(made);
   for (const auto& marks : origins.marks) bytes += bytesOf(marks);
   return bytes;

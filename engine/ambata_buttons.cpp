@@ -93,6 +93,7 @@ void CercaAmbate(Workbench& w, const AmbataButton& button) {
                   .shape = button.shape,
                   .wheelsOfSet = button.wheelsOfSet,
                   .cases = static_cast<int>(request.cases.size())});
+  noteLastSearch(w, request, button.wheelsOfSet);
   noteSearch(w, rankedAmbate(w, request, button.wheelsOfSet));
   if (!ranking.empty()) chooseFirstCandidate(w);
   addTime(w);

@@ -1,8 +1,13 @@
 #include "engine/ranking_origin.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <string>
+#include <utility>
 
+#include "cases/method_codec.h"
+#include "cases/situation_name.h"
+#include "core/text.h"
 #include "engine/search_frame.h"
 
 namespace trv5 {
@@ -20,6 +25,21 @@ std::string operatorText(const Workbench& w, Shape shape) {
   std::string text(kOperators[static_cast<std::size_t>(operatorIndex(w))]);
   if (text.starts_with('N')) std::erase(text, ' ');
   return text;
+}
+
+std::string joinedParts(std::initializer_list<std::string> parts) {
+  std::string text;
+  for (const std::string& part : parts)
+    if (!part.empty()) text += (text.empty() ? "" : " · ") + part;
+  return text;
+}
+
+// Shape, operator, alteration, fix.
+std::string rulesText(const Workbench& w, const std::optional<Shape>& shape) {
+  if (!shape) return shapeText(shape);
+  std::string fix = w.ComboFix.index() > 0 ? "fix " + w.ComboFix.text() : "";
+  if (!w.ChFix1R.checked()) fix = "senza fix";
+  return joinedParts({shapeText(shape), operatorText(w, *shape), w.Combo1R_1N.text(), fix});
 }
 
 std::string casesText(const Workbench& w, const RankingSearch& search) {
@@ -46,22 +66,26 @@ std::string wheelsText(const Workbench& w, int wheelsOfSet) {
 }  // namespace
 
 void noteRanking(Workbench& w, const RankingSearch& search) {
-  std::string text = kSections[indexOf(search.table)];
-  const auto add = [&text](const std::string& part) {
-    if (!part.empty()) text += " · " + part;
-  };
-  add(shapeText(search.shape));
-  if (search.shape) {
-    add(operatorText(w, *search.shape));
-    add(w.Combo1R_1N.text());
-    if (!w.ChFix1R.checked())
-      add("senza fix");
-    else if (w.ComboFix.index() > 0)
-      add("fix " + w.ComboFix.text());
+  w.origins.ranking = joinedParts({kSections[indexOf(search.table)], rulesText(w, search.shape), casesText(w, search),
+                                   wheelsText(w, search.wheelsOfSet)});
+  w.origins.lastSearch.reset();
+}
+
+void noteLastSearch(Workbench& w, const AmbataRequest& request, int wheelsOfSet) {
+  const auto cases = w.origins.made.find(w.FgEv.name());
+  if (cases == w.origins.made.end() || cases->second.empty() || !cases->second.front().situation) return;
+  LastSearch search{.situation = *cases->second.front().situation, .request = request};
+  search.name = joinedParts({situationName(search.situation), rulesText(w, request.formula.shape),
+                             w.Ch_Scoperti.checked() ? "casi scoperti" : "", wheelsText(w, wheelsOfSet),
+                             counted(request.colpi, "colpo", "colpi")});
+  search.archive = w.archive.loadStamp();
+  const int column = case_column::kHits + w.Sorte - 1;
+  for (const TableTraits& table : kTables) {
+    if (!w.Ch_Scoperti.checked() || table.markColumn != column) continue;
+    search.coveredBy = methodOf(w);
+    search.coveredTable = table.table;
   }
-  add(casesText(w, search));
-  add(wheelsText(w, search.wheelsOfSet));
-  w.origins.ranking = text;
+  w.origins.lastSearch = std::move(search);
 }
 
 }  // namespace trv5

@@ -19,4 +19,8 @@ struct RankingSearch {
 /// Notes what fills `FgF`: "Ambate · 2N 1R · N1+N2 · 20 casi · FI".
 void noteRanking(Workbench& w, const RankingSearch& search);
 
+/// Keeps a search of ambate for the test forward, after its ranking has been noted: as far as the cases come from a
+/// situation, which tells the others.
+void noteLastSearch(Workbench& w, const AmbataRequest& request, int wheelsOfSet);
+
 }  // namespace trv5

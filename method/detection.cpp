@@ -224,6 +224,10 @@ std::optional<SituationKind> situationKindOf(std::string_view text) {
   return static_cast<SituationKind>(it - kKinds.begin());
 }
 
+std::string_view textOf(SituationKind kind) {
+  return kKinds[static_cast<std::size_t>(kind)];
+}
+
 std::vector<FoundCase> detectCases(const Archive& archive, const Situation& situation, PositionFlags& struck) {
   return Detector(archive, situation, struck).run();
 }

@@ -14,6 +14,8 @@ enum class SituationKind { Mensile, Numeri, Distanza, Differenza, Somma, Ciclo, 
 
 /// The kind of an item of the list; nothing for another text.
 std::optional<SituationKind> situationKindOf(std::string_view text);
+/// The text of that item.
+std::string_view textOf(SituationKind kind);
 
 /// A recurring situation: what a draw must show to be a case.
 struct Situation {

@@ -21,6 +21,7 @@ struct Method {
 
   const std::vector<FormulaRow>& of(Table table) const { return formulas[indexOf(table)]; }
   std::vector<FormulaRow>& of(Table table) { return formulas[indexOf(table)]; }
+  bool operator==(const Method&) const = default;
   PlayWindow window() const { return {.colpi = colpi, .lastDraw = reference, .wheels = wheels}; }
 };
 

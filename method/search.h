@@ -47,6 +47,8 @@ struct FormulaInput {
   std::array<ElementTable, 3> elements{};
   Operator op = Operator::Sum;
   TripleFlags triples{};  ///< `TerzineAmmesse`, for three elements
+
+  bool operator==(const FormulaInput&) const = default;
 };
 
 /// A row of the ranking.
@@ -74,6 +76,8 @@ struct AmbataRequest {
   /// Best wheels of one number: what a number already seen in the case adds to the presences of the formula without fix
   /// is lost.
   bool repeatsAtZeroGetLost = false;
+
+  bool operator==(const AmbataRequest&) const = default;
 };
 
 class FormulaValues;
