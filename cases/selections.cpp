@@ -46,6 +46,7 @@ void fillLists(Workbench& w) {
   fill(w.ComboDelta, numbers(0, 5), 0);
   fill(w.Combo1R_1N, {"", "C91", "CAD", "DEC", "DIAM", "DIDE", "D x U", "FIG", "VERT"}, 0);
   // The empty item stands for the first operator.
+  fill(w.ComboOrdine, {"Rarità", "Casi coperti"}, 0);
   fill(w.Combo1R_2N, {"", "N1 + N2", "N1 - N2", "N2 - N1", "N1 X N2", "D1 e U2", "D2 e U1"}, 0);
 }
 

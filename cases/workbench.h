@@ -104,7 +104,8 @@ class Workbench : public Form, public WorkbenchState {
   Label LblOrigine{*this, "LblOrigine"};  ///< the search that the ranking comes from
   LineList List1{*this, "List1"};
   Combo ComboEle{*this, "ComboEle", Combo::Typing::Digits}, Combo1R_1N{*this, "Combo1R_1N", Combo::Typing::Yes},
-      Combo1R_2N{*this, "Combo1R_2N"}, ComboFix{*this, "ComboFix"};
+      Combo1R_2N{*this, "Combo1R_2N"}, ComboFix{*this, "ComboFix"},
+      ComboOrdine{*this, "ComboOrdine"};  ///< of the search through everything: rarity, covered cases
   Check ChFix1R{*this, "ChFix1R", "Utilizza Fix"},
       Ch_Scoperti{*this, "Ch_Scoperti", "Casi scoperti", "Cerca solo sui casi non ancora coperti"},
       ChVerifica{*this, "ChVerifica", "Verifica automatica", "Verifica la tabella a ogni previsione aggiunta"};

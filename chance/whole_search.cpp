@@ -184,6 +184,13 @@ std::vector<WholePass> wholePasses() {
   return passes;
 }
 
+std::int64_t wholeFormulas(const TripleFlags& triples) {
+  std::int64_t formulas = 0;
+  for (const WholePass& pass : wholePasses())
+    formulas += static_cast<std::int64_t>(elementSets(pass.shape, SetOrder::WheelsFirst, triples).size());
+  return formulas * kMostNumber * static_cast<std::int64_t>(wholeWheelSets().size());
+}
+
 FormulaInput formulaOf(const WholePass& pass, const TripleFlags& triples) {
   const ElementTable* const table = findElementTable(kAlterations[static_cast<std::size_t>(pass.alteration)]);
   return {.shape = pass.shape, .elements = {*table, *table, *table}, .op = pass.op, .triples = triples};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "chance/workers.h"
@@ -46,6 +47,9 @@ const std::vector<WheelSet>& wholeWheelSets();
 
 /// All passes in the order in which equal rows follow each other: by shape, alteration, operator.
 std::vector<WholePass> wholePasses();
+
+/// How many formulas a search goes through: those of all passes with every fix on every set of wheels.
+std::int64_t wholeFormulas(const TripleFlags& triples);
 
 /// What a pass evaluates.
 FormulaInput formulaOf(const WholePass& pass, const TripleFlags& triples);

@@ -20,6 +20,7 @@
 #include "engine/summary.h"
 #include "engine/table_tools.h"
 #include "engine/verification.h"
+#include "engine/whole_ranking.h"
 #include "followup/case_forecasts.h"
 #include "followup/grouping.h"
 #include "followup/information.h"
@@ -104,6 +105,8 @@ constexpr WorkbenchButton kRicercaPaginaAmbate[] = {
     {"Command101", "1R", kOneWheel, run<CercaNumeri, 1>},
     {"Command100", "2R", kTwoWheels, run<CercaNumeri, 2>},
     {"Command99", "3R", kThreeWheels, run<CercaNumeri, 3>},
+    {"Cmd_Totale", "TUTTE", "Tutte le ricerche insieme: ogni forma, alterazione, operazione e fix, su 1, 2 e 3 ruote",
+     run<CercaTutte>},
 };
 
 constexpr WorkbenchButton kRicercaPaginaAmbi[] = {

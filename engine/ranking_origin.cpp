@@ -88,4 +88,10 @@ void noteLastSearch(Workbench& w, const AmbataRequest& request, int wheelsOfSet)
   w.origins.lastSearch = std::move(search);
 }
 
+void noteWholeRanking(Workbench& w, int cases) {
+  w.origins.ranking = joinedParts({kSections[indexOf(Table::Ambate)], "TUTTE", w.ComboOrdine.text(),
+                                   casesText(w, {.cases = cases}), "da 1 a 3 ruote"});
+  w.origins.lastSearch.reset();
+}
+
 }  // namespace trv5

@@ -23,4 +23,7 @@ void noteRanking(Workbench& w, const RankingSearch& search);
 /// situation, which tells the others.
 void noteLastSearch(Workbench& w, const AmbataRequest& request, int wheelsOfSet);
 
+/// What noteRanking does for a search through everything: "Ambate · TUTTE · Rarità · 20 casi · da 1 a 3 ruote".
+void noteWholeRanking(Workbench& w, int cases);
+
 }  // namespace trv5

@@ -135,6 +135,16 @@ QWidget* Kit::joined(std::initializer_list<std::string_view> names, bool firstSt
   return group;
 }
 
+QWidget* Kit::joinedList(std::string_view button, std::string_view list, const QString& widest, const QString& called) {
+  QWidget* const group = joined({button});
+  group->findChild<QToolButton*>()->setProperty("joint", QStringLiteral("first"));
+  QComboBox* const items = combo(list, widest);
+  items->setProperty("joint", QStringLiteral("last"));
+  items->setAccessibleName(called);
+  group->layout()->addWidget(items);
+  return group;
+}
+
 QToolButton* Kit::key(std::string_view name) {
   auto* const widget = new QToolButton;
   dress(*widget, {.strong = true});

@@ -64,6 +64,9 @@ class Kit {
   QPushButton* button(std::string_view name, ButtonLook look = {});
   /// Buttons joined without a gap: `[1N 1R|1R|2R|3R]`. With `firstStrong` the first is written in weight 600.
   QWidget* joined(std::initializer_list<std::string_view> names, bool firstStrong = true);
+  /// The same with a button and the list that it reads: `[TUTTE|Rarità]`.
+  /// `called`: the list as it is read out.
+  QWidget* joinedList(std::string_view button, std::string_view list, const QString& widest, const QString& called);
   /// A label with an operation, as a key of its own (`LblPN`).
   QToolButton* key(std::string_view name);
   QLabel* label(std::string_view name, Type type = Type::Base);

@@ -153,7 +153,7 @@ QList<int> Sommativi1Screen::defaultSizes(const char* splitter) const {
   if (name == QLatin1String("sopra")) {
     // The candidates want the width of their buttons in one line.
     const int left = wide ? std::min(scaled(560 + 570 + 8), inside - scaled(600))
-                          : std::max(scaled(540), std::min(scaled(592), inside * 45 / 100));
+                          : std::max(scaled(540), std::min(scaled(572), inside * 45 / 100));
     return pair(std::max(left, m_pages->minimumSizeHint().width()), inside);
   }
   if (name == QLatin1String("pagine"))

@@ -28,10 +28,11 @@ constexpr const char* kRoad[] = {
     // Ricerca.
     "List1", "Command3", "Cmd_Colora_fgf", "ComboEle", "Combo1R_1N", "Combo1R_2N", "ComboFix", "ChFix1R", "Ch_Scoperti",
     "Command20", "Command11", "Command13", "Command15", "Command23", "Command17", "Command16", "Command7", "Command18",
-    "Command10", "Command1", "Command2", "Command77", "Command101", "Command100", "Command99", "Command28", "Command39",
-    "Command37", "Command31", "Command105", "Command64", "Command46", "Command43", "Command45", "Command40",
-    "Command107", "Command73", "Command56", "Command58", "Command57", "Command59", "Command108", "Command84", "FgF",
-    "Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6", "ChVerifica", "Command22",
+    "Command10", "Command1", "Command2", "Command77", "Command101", "Command100", "Command99", "Cmd_Totale",
+    "ComboOrdine", "Command28", "Command39", "Command37", "Command31", "Command105", "Command64", "Command46",
+    "Command43", "Command45", "Command40", "Command107", "Command73", "Command56", "Command58", "Command57",
+    "Command59", "Command108", "Command84", "FgF", "Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6",
+    "ChVerifica", "Command22",
     // Forecasts: table, its buttons, its hits.
     "SSTab3", "Fg11", "Command29", "Command21", "Command90", "Command32", "Command19", "Check3", "FgZ1", "Stampa_FgZ1",
     "Copia_FgZ1", "Command75", "Fg22", "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "FgZ2", "Stampa_FgZ2",

@@ -84,7 +84,7 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
         kit.joined({"Command23", "Command17", "Command16", "Command7"}), kit.joined({"Command18"}),
         kit.joined({"Command10", "Command1", "Command2"}),
         kit.joined({"Command77", "Command101", "Command100", "Command99"})},
-       nullptr);
+       kit.joinedList("Cmd_Totale", "ComboOrdine", QStringLiteral("Casi coperti"), QStringLiteral("Ordine di TUTTE")));
   for (const auto& names : {std::array{"Command28", "Command39", "Command37", "Command31", "Command105", "Command64"},
                             std::array{"Command46", "Command43", "Command45", "Command40", "Command107", "Command73"},
                             std::array{"Command56", "Command58", "Command57", "Command59", "Command108", "Command84"}})
@@ -119,9 +119,8 @@ WorkbenchSearch::WorkbenchSearch(Workbench& w, QWidget* parent)
   body()->addWidget(m_foot);
 }
 
-QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* counts) {
-  QWidget* const made =
-      holding(flow(groups, counts == nullptr ? std::vector<QWidget*>() : std::vector<QWidget*>{counts}));
+QWidget* WorkbenchSearch::page(const std::vector<QWidget*>& groups, QWidget* atRight) {
+  QWidget* const made = holding(flow(groups, {atRight}));
   for (auto* const button : made->findChildren<QAbstractButton*>()) button->installEventFilter(this);
   m_pages->addWidget(made);
   return made;

@@ -37,7 +37,7 @@ class WorkbenchSearch : public Panel {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QWidget* page(const std::vector<QWidget*>& groups, QWidget* counts);
+  QWidget* page(const std::vector<QWidget*>& groups, QWidget* atRight);
   std::vector<QAbstractButton*> buttons() const;
   void walk(const QWidget* from, int step);
   void goToCandidates();

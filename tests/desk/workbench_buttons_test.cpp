@@ -32,7 +32,7 @@ TEST(WorkbenchButtons, StandOnceEachAndReachTheWorkbench) {
       EXPECT_TRUE(row.run == nullptr || button.toolTip() == row.toolTip) << row.name;
     }
   }
-  EXPECT_EQ(names.size(), 125U);
+  EXPECT_EQ(names.size(), 126U);
 }
 
 TEST(WorkbenchButtons, OpenTheTabsThatHaveAnOperationToOffer) {
