@@ -123,6 +123,20 @@ void benchWhole(const Archive& archive) {
              __builtin_popcount(rows.front().wheels), rows.front().rarity);
 }
 
+// As the screen walks: what a user waits for who stops it is the longest of the slices.
+void benchSlices(const ForwardRequest& request) {
+  constexpr double kMostWait = 0.05;
+  double longest = 0;
+  int slices = 0;
+  for (ForwardWalk walk(request); !walk.over(); ++slices) {
+    const double used = processSeconds();
+    walk.advance(std::chrono::milliseconds(25));
+    longest = std::max(longest, (processSeconds() - used) / std::max(1U, std::thread::hardware_concurrency()));
+  }
+  g_good = g_good && longest <= kMostWait;
+  fmt::print("  in {} slices, the longest of {:.1f} ms\n", slices, longest * 1e3);
+}
+
 void benchForward(const Archive& archive) {
   Situation situation;
   situation.kind = SituationKind::Numeri;
@@ -139,6 +153,7 @@ void benchForward(const Archive& archive) {
     });
     fmt::print("  {} tests of {} cases, {} covered, {:.1f} by luck\n", figures.tests.size(), request.cases.size(),
                figures.covered, figures.expected);
+    benchSlices(request);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <optional>
+#include <utility>
 
 #include "chance/expected_cover.h"
 #include "chance/hypergeometric.h"
@@ -10,25 +10,6 @@
 
 namespace trv5 {
 namespace {
-
-// A test before it is made: the case, and where the cases end that its search may know, in the list of all.
-struct Planned {
-  int draw = 0;
-  std::size_t knownEnd = 0;
-};
-
-std::vector<Planned> planTests(const ForwardRequest& request) {
-  const int colpi = request.search.colpi;
-  std::vector<Planned> planned;
-  std::size_t knownEnd = 0;
-  for (const int draw : request.cases) {
-    if (draw + colpi > request.search.lastDraw) break;
-    if (!planned.empty() && draw <= planned.back().draw + colpi) continue;
-    while (request.cases[knownEnd] + colpi < draw) ++knownEnd;
-    if (knownEnd >= static_cast<std::size_t>(std::max(request.learnt, 1))) planned.push_back({draw, knownEnd});
-  }
-  return planned;
-}
 
 int firstHit(const Archive& archive, int number, int draw, const PlayWindow& window) {
   for (int colpo = 1; colpo <= window.colpi; ++colpo)
@@ -38,29 +19,6 @@ int firstHit(const Archive& archive, int number, int draw, const PlayWindow& win
         return colpo;
     }
   return 0;
-}
-
-std::optional<ForwardTest> makeTest(const ForwardRequest& request, const Planned& planned) {
-  AmbataRequest search = request.search;
-  const auto end = request.cases.begin() + static_cast<std::ptrdiff_t>(planned.knownEnd);
-  search.cases.assign(end - std::max(request.learnt, 1), end);
-  // As the list of cases has them, the most recent first.
-  std::reverse(search.cases.begin(), search.cases.end());
-  search.lastDraw = planned.draw;
-  search.keep = 1;
-  const std::vector<Candidate> ranking = searchAmbate(search);
-  if (ranking.empty()) return std::nullopt;
-
-  const Archive& archive = *search.archive;
-  ForwardTest test{.draw = planned.draw, .formula = ranking.front()};
-  const PlayWindow window{.colpi = search.colpi,
-                          .lastDraw = request.search.lastDraw,
-                          .wheels = search.wheelSets[static_cast<std::size_t>(test.formula.wheelSet)]};
-  test.chance = chanceOfDraws(chanceOfSet(1), wheelDraws(archive, test.draw, window));
-  if (test.chance <= 0) return std::nullopt;
-  test.number = numberOf(archive, search.formula, test.formula.elements, test.formula.fix, test.draw);
-  test.colpo = firstHit(archive, test.number, test.draw, window);
-  return test;
 }
 
 }  // namespace
@@ -74,33 +32,96 @@ std::vector<int> allCases(const Archive& archive, Situation situation) {
   return draws;
 }
 
-ForwardFigures testForward(const ForwardRequest& request, const Workers& workers) {
-  const std::vector<Planned> planned = planTests(request);
-  std::vector<std::optional<ForwardTest>> made(planned.size());
-  const int count = static_cast<int>(planned.size());
-  const int done = doAll(count, workers, [&]() -> Work {
+ForwardWalk::ForwardWalk(ForwardRequest request) : m_request(std::move(request)) {
+  m_request.learnt = std::max(m_request.learnt, 1);
+  const std::vector<bool>& passed = m_request.passedOver;
+  for (std::size_t i = 0; i < m_request.cases.size(); ++i)
+    if (i >= passed.size() || !passed[i]) m_learnable.push_back(m_request.cases[i]);
+  plan();
+  m_made.resize(m_planned.size());
+}
+
+void ForwardWalk::plan() {
+  const int colpi = m_request.search.colpi;
+  std::size_t known = 0;
+  for (const int draw : m_request.cases) {
+    if (draw + colpi > m_request.search.lastDraw) break;
+    if (!m_planned.empty() && draw <= m_planned.back().draw + colpi) continue;
+    while (known < m_learnable.size() && m_learnable[known] + colpi < draw) ++known;
+    if (known >= static_cast<std::size_t>(m_request.learnt)) m_planned.push_back({draw, known});
+  }
+}
+
+std::optional<ForwardTest> ForwardWalk::makeTest(const Planned& planned) const {
+  AmbataRequest search = m_request.search;
+  const auto end = m_learnable.begin() + static_cast<std::ptrdiff_t>(planned.known);
+  search.cases.assign(end - m_request.learnt, end);
+  // As the list of cases has them, the most recent first.
+  std::reverse(search.cases.begin(), search.cases.end());
+  search.lastDraw = planned.draw;
+  search.keep = 1;
+  const std::vector<Candidate> ranking = searchAmbate(search);
+  if (ranking.empty()) return std::nullopt;
+
+  const Archive& archive = *search.archive;
+  ForwardTest test{.draw = planned.draw, .formula = ranking.front()};
+  const PlayWindow window{.colpi = search.colpi,
+                          .lastDraw = m_request.search.lastDraw,
+                          .wheels = search.wheelSets[static_cast<std::size_t>(test.formula.wheelSet)]};
+  test.chance = chanceOfDraws(chanceOfSet(1), wheelDraws(archive, test.draw, window));
+  if (test.chance <= 0) return std::nullopt;
+  test.number = numberOf(archive, search.formula, test.formula.elements, test.formula.fix, test.draw);
+  test.colpo = firstHit(archive, test.number, test.draw, window);
+  return test;
+}
+
+void ForwardWalk::advance(int cases, const Workers& workers) {
+  const int first = m_done;
+  m_done += doAll(std::min(cases, planned() - first), workers, [&]() -> Work {
     return [&](int index) {
-      const auto i = static_cast<std::size_t>(index);
-      made[i] = makeTest(request, planned[i]);
+      const auto i = static_cast<std::size_t>(first + index);
+      m_made[i] = makeTest(m_planned[i]);
     };
   });
-  ForwardFigures figures{.tests = {}, .share = {}};
-  if (done < count) return figures;
+}
 
+void ForwardWalk::advance(std::chrono::milliseconds time, const Workers& workers) {
+  using Clock = std::chrono::steady_clock;
+  constexpr auto kShort = std::chrono::milliseconds(4), kLong = std::chrono::milliseconds(10);
+  const auto end = Clock::now() + time;
+  for (auto before = Clock::now(); !over() && !workers.stop.stop_requested();) {
+    advance(m_batch, workers);
+    const auto after = Clock::now();
+    if (after - before < kShort) m_batch *= 2;
+    if (after - before > kLong) m_batch = std::max(1, m_batch / 2);
+    if (after >= end) return;
+    before = after;
+  }
+}
+
+ForwardFigures ForwardWalk::figures() const {
+  ForwardFigures figures{.tests = {}, .share = {}};
   PoissonBinomial luck;
-  for (std::optional<ForwardTest>& test : made) {
-    if (!test) continue;
-    figures.covered += test->colpo > 0;
-    luck.add(test->chance);
-    test->ahead = figures.covered - luck.mean();
-    test->low = luck.quantile(0.025) - luck.mean();
-    test->high = luck.quantile(0.975) - luck.mean();
-    figures.tests.push_back(*test);
+  for (std::size_t i = 0; i < static_cast<std::size_t>(m_done); ++i) {
+    if (!m_made[i]) continue;
+    ForwardTest test = *m_made[i];
+    figures.covered += test.colpo > 0;
+    luck.add(test.chance);
+    test.ahead = figures.covered - luck.mean();
+    test.low = luck.quantile(0.025) - luck.mean();
+    test.high = luck.quantile(0.975) - luck.mean();
+    figures.tests.push_back(test);
   }
   figures.expected = luck.mean();
   figures.atLeast = luck.atLeast(figures.covered);
   figures.share = wilson(figures.covered, luck.trials());
   return figures;
+}
+
+ForwardFigures testForward(const ForwardRequest& request, const Workers& workers) {
+  ForwardWalk walk(request);
+  walk.advance(walk.planned(), workers);
+  return walk.over() ? walk.figures() : ForwardFigures{.tests = {}, .share = {}};
 }
 
 }  // namespace trv5

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <vector>
 
 #include "chance/intervals.h"
@@ -19,6 +21,8 @@ struct ForwardRequest {
   AmbataRequest search;
   std::vector<int> cases = {};  ///< of the situation, the oldest first
   int learnt = 30;              ///< cases that each search learns from, at least 1
+  /// By case: none learns from it, though it may be a test. Empty for none.
+  std::vector<bool> passedOver = {};
 };
 
 /// A case that the formula found on the cases before it was played in.
@@ -43,7 +47,43 @@ struct ForwardFigures {
 /// Goes through the cases from the oldest on. A case is a test when at least `learnt` cases before it had their colpi
 /// over before its own draw, and it doesn't fall into the colpi of the test before, so that the tests don't hang on
 /// each other. Of the cases before, the last `learnt` are searched, and the first row plays in the colpi of the case.
-/// Cases with no wheel of play drawn, and searches that find nothing, are no tests. Stopped, it gives no test at all.
+/// Cases with no wheel of play drawn, and searches that find nothing, are no tests.
+class ForwardWalk {
+ public:
+  /// The archive of the search must outlive the walk, and stay as it is.
+  explicit ForwardWalk(ForwardRequest request);
+
+  /// Cases to be tested, and those that have been.
+  int planned() const { return static_cast<int>(m_planned.size()); }
+  int done() const { return m_done; }
+  bool over() const { return m_done == planned(); }
+
+  /// Walks on for about so long, by one case at least. What it finds hangs neither on the time nor on the threads.
+  void advance(std::chrono::milliseconds time, const Workers& workers = {});
+  /// Walks on for so many cases. Stopped, it stands behind the last case without a gap before it.
+  void advance(int cases, const Workers& workers = {});
+
+  /// Of the cases tested so far.
+  ForwardFigures figures() const;
+
+ private:
+  // A case to be tested, and how many of those that may be learnt from its search knows.
+  struct Planned {
+    int draw = 0;
+    std::size_t known = 0;
+  };
+  void plan();
+  std::optional<ForwardTest> makeTest(const Planned& planned) const;
+
+  ForwardRequest m_request;
+  std::vector<int> m_learnable;  // draws of the cases that may be learnt from, the oldest first
+  std::vector<Planned> m_planned;
+  std::vector<std::optional<ForwardTest>> m_made;
+  int m_done = 0;
+  int m_batch = 1;  // cases that take a few milliseconds
+};
+
+/// The whole walk at once. Stopped, it gives no test at all.
 ForwardFigures testForward(const ForwardRequest& request, const Workers& workers = {});
 
 }  // namespace trv5

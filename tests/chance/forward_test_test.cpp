@@ -129,6 +129,63 @@ TEST(ForwardTest, IsTheSameForAnyNumberOfThreadsAndStops) {
   EXPECT_TRUE(testForward(request, {.stop = stop.get_token()}).tests.empty());
 }
 
+TEST(ForwardWalk, GivesTheSameFiguresHoweverItIsSliced) {
+  std::mt19937 rng(5);
+  const Archive archive = fullArchive(rng, 400);
+  const ForwardRequest request = requestOn(archive, 10, 9);
+  const ForwardFigures whole = testForward(request);
+  ForwardWalk walk(request);
+  EXPECT_GT(walk.planned(), 20);
+  while (!walk.over()) {
+    const int before = walk.done();
+    if (before % 2 == 0)
+      walk.advance(3);
+    else
+      walk.advance(std::chrono::milliseconds(1));
+    ASSERT_GT(walk.done(), before);
+    const ForwardFigures sofar = walk.figures();
+    ASSERT_LE(sofar.tests.size(), static_cast<std::size_t>(walk.done()));
+    for (std::size_t i = 0; i < sofar.tests.size(); ++i) {
+      EXPECT_EQ(sofar.tests[i].formula, whole.tests[i].formula);
+      EXPECT_EQ(sofar.tests[i].ahead, whole.tests[i].ahead);
+    }
+  }
+  EXPECT_EQ(walk.figures().tests.size(), whole.tests.size());
+  EXPECT_EQ(walk.figures().atLeast, whole.atLeast);
+}
+
+TEST(ForwardWalk, StoppedStaysWhereItIs) {
+  std::mt19937 rng(6);
+  const Archive archive = fullArchive(rng, 300);
+  ForwardWalk walk(requestOn(archive, 10, 9));
+  walk.advance(4);
+  std::stop_source stop;
+  stop.request_stop();
+  walk.advance(5, {.stop = stop.get_token()});
+  walk.advance(std::chrono::milliseconds(5), {.stop = stop.get_token()});
+  EXPECT_EQ(walk.done(), 4);
+  EXPECT_EQ(walk.figures().tests.size(), 4U);
+}
+
+// What isn't learnt from is a test all the same: the search of each test knows the others alone.
+TEST(ForwardWalk, LearnsFromNoCaseThatIsPassedOver) {
+  std::mt19937 rng(7);
+  const Archive archive = fullArchive(rng, 400);
+  ForwardRequest request = requestOn(archive, 8, 9);
+  for (std::size_t i = 0; i < request.cases.size(); ++i) request.passedOver.push_back(i % 3 != 0);
+  const ForwardFigures figures = testForward(request);
+  ASSERT_GT(figures.tests.size(), 5U);
+  for (const ForwardTest& test : figures.tests) {
+    AmbataRequest search = request.search;
+    search.cases.clear();
+    for (std::size_t i = request.cases.size(); i-- > 0 && search.cases.size() < 8U;)
+      if (request.cases[i] + 9 < test.draw && i % 3 == 0) search.cases.push_back(request.cases[i]);
+    ASSERT_EQ(search.cases.size(), 8U);
+    search.keep = 1;
+    EXPECT_EQ(test.formula, searchAmbate(search).front());
+  }
+}
+
 TEST(ForwardTest, WithoutEnoughCasesMakesNoTest) {
   std::mt19937 rng(4);
   const Archive archive = fullArchive(rng, 60);
