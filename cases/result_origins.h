@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -10,6 +11,14 @@
 #include "cases/origin.h"
 
 namespace trv5 {
+
+/// What luck has to say on the table verified last, for its two labels; empty texts for nothing.
+struct TableLuck {
+  std::string expected = {}, balance = {}, toolTip = {};
+  std::uint64_t archive = 0;  ///< the load of the archive that it speaks of
+
+  bool operator==(const TableLuck&) const = default;
+};
 
 /// What the results on the workbench were made from: a plain value beside their grids, to be kept and put back with
 /// them.
@@ -26,6 +35,9 @@ struct ResultOrigins {
   std::optional<LastSearch> lastSearch;
   /// How often all saved methods have been run.
   int groupings = 0;
+
+  /// Of the table whose statistics stand in `Fg_Stat`; it goes when these stand for something else.
+  TableLuck luck;
 
   bool operator==(const ResultOrigins&) const = default;
 };

@@ -143,6 +143,9 @@ constexpr ResultRow kResults[] = {
     {"FgRit", hasRows, noReason},
 };
 
+constexpr const char* kExpectedMeans =
+    "Quanti casi coprirebbe in media la stessa giocata con numeri scelti prima, senza guardare l'archivio";
+
 std::string labelOf(const ResultRow& row) {
   return std::string("LblStato_") + row.grid;
 }
@@ -176,6 +179,15 @@ void showTriedRow(Workbench& w) {
   const bool tried = w.FgZ1.hasData() && !from.empty() && from.front().tried;
   const std::string text = tried ? "Esiti della riga provata " + shortFormula(*from.front().tried) : "";
   show(w.LblRigaProvata, text, text);
+}
+
+// What luck has to say goes with the statistics that it stands under: with them it grows old, and is told no more.
+void showLuck(Workbench& w) {
+  TableLuck luck = w.origins.luck;
+  const bool stands = hasSection(w.Fg_Stat) && w.get<Label>("LblStato_Fg_Stat").text().empty();
+  if (!stands || luck.archive != w.archive.loadStamp()) luck = {};
+  show(w.LblAttesi, luck.expected, luck.expected.empty() ? "" : kExpectedMeans);
+  show(w.LblBilancio, luck.balance, luck.toolTip);
 }
 
 void showReference(Workbench& w) {
@@ -247,6 +259,7 @@ void noteTotals(Workbench& w) {
 
 void noteStatistics(Workbench& w, const GridControl& from) {
   setSources(w, w.Fg_Stat, sourcesOf(w, from.name()));
+  w.origins.luck = {};
 }
 
 void noteSummary(Workbench& w) {
@@ -310,6 +323,7 @@ void noteDelays(Workbench& w, bool ofCases) {
 
 void MostraStati(Workbench& w) {
   showResults(w);
+  showLuck(w);
   showTriedRow(w);
   show(w.LblOrigine, w.FgF.hasData() ? w.origins.ranking : "", w.FgF.hasData() ? w.origins.ranking : "");
   showReference(w);

@@ -152,6 +152,8 @@ class Workbench : public Form, public WorkbenchState {
   Text Txt_Denominazione{*this, "Txt_Denominazione"}, Txt_FiltroConfig{*this, "Txt_FiltroConfig"};
   GridControl FgPir1{*this, "FgPir1", "|Cod|Denominazione|Estraz"};
   GridControl Fg_Stat{*this, "Fg_Stat", 11, 2}, Fg_Graf{*this, "Fg_Graf", 3, 3};
+  Label LblAttesi{*this, "LblAttesi"};      ///< what luck alone covers of the table verified last
+  Label LblBilancio{*this, "LblBilancio"};  ///< what playing it would have cost and paid
 
   // Without a place on screen.
   GridControl FgZ100{*this, "FgZ100", kHitHeading}, Fg99{*this, "Fg99", scratchHeading()}, FgDett{*this, "FgDett", ""},

@@ -30,7 +30,9 @@ std::size_t bytesOf(const std::vector<Origin>& origins) {
 }
 
 std::size_t bytesOf(const ResultOrigins& origins) {
-  std::size_t bytes = origins.ranking.capacity();
+  const TableLuck& luck = origins.luck;
+  std::size_t bytes =
+      origins.ranking.capacity() + luck.expected.capacity() + luck.balance.capacity() + luck.toolTip.capacity();
   if (const auto& search = origins.lastSearch)
     bytes += search->name.capacity() + search->request.cases.capacity() * sizeof(int) +
              search->request.wheelSets.capacity() * sizeof(WheelSet);

@@ -96,6 +96,7 @@ void azzeraStatistiche(Workbench& w) {
     w.Fg_Graf.setText(row, 1, "");
     w.Fg_Graf.setText(row, 2, "");
   }
+  w.origins.luck = {};
   w.Fg_Graf.removeBar(1, 2);
   w.FgSSS.clearTexts();
 }

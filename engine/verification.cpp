@@ -15,6 +15,7 @@
 #include "engine/colouring.h"
 #include "engine/lunghetta.h"
 #include "engine/statistics.h"
+#include "engine/table_luck.h"
 #include "method/verification.h"
 
 namespace trv5 {
@@ -140,6 +141,7 @@ void verificaTutte(Workbench& w, Table table) {
                    countMisses(verified, open));
   PopolaGrafico(w);
   noteStatistics(w, w.hits(table));
+  NotaFortunaTabella(w, table, verified.numbers);
   w.shell().status("Verifica tutte le righe: " + counted(w.FgEv.dataRows(), "caso", "casi") + ", " +
                    counted(verified.totals.hits, "esito", "esiti"));
 }

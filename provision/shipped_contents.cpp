@@ -16,6 +16,13 @@ MainContents shippedContents(const std::string& archive) {
           {"PercorsoRuotafast", "/BRNT3"},
           {"HostWebAggiornamento"},
           {"HostFtpAggiornamento"},
+          // What the game pays, gross and in stakes (law 311 of 2004, paragraph 491), and what is withheld in percent.
+          {"VincitaEstratto", "11,232"},
+          {"VincitaAmbo", "250"},
+          {"VincitaTerno", "4500"},
+          {"VincitaQuaterna", "120000"},
+          {"VincitaCinquina", "6000000"},
+          {"RitenutaVincite", "8"},
       },
       shippedSystems(),
   };

@@ -5,8 +5,10 @@
 #include <QStyle>
 #include <array>
 
+#include "screens/kit/bindings.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
+#include "screens/workbench/luck_line.h"
 
 namespace trv5 {
 namespace {
@@ -77,13 +79,18 @@ WorkbenchStatistics::WorkbenchStatistics(Workbench& w, QWidget* parent)
       m_countsHolder(nullptr),
       m_legend(legend()),
       m_state(nullptr),
+      m_luck(nullptr),
       m_title(Kit::text(QStringLiteral("Statistiche"), Type::Title)),
       m_grid(new QGridLayout) {
   Kit kit(w);
   m_counts = kit.grid("Fg_Stat", {.name = QStringLiteral("Statistiche")});
   m_bars = kit.grid("Fg_Graf", {.name = QStringLiteral("Grafico delle statistiche")});
+  // The mark and what luck has to say share their place: statistics that are marked say nothing of luck.
   m_state = kit.stateMark("Fg_Stat");
   m_state->takeRest();  // its word must not widen the panel: a larger font and back would leave it wide
+  auto* const expected = new FigureNote;
+  bind(*expected, w.LblAttesi);
+  m_luck = new LuckLine(expected, kit.note("LblBilancio", Qt::ElideRight));
   m_countsHolder = holding(column({{m_counts, 1000}, Piece::gap()}));
   for (QWidget* const part : {static_cast<QWidget*>(m_title), m_legend}) part->setParent(this);
   body()->addLayout(m_grid, 1);
@@ -100,7 +107,7 @@ void WorkbenchStatistics::setWide(bool wide, bool longBars) {
 
 void WorkbenchStatistics::arrange() {
   for (QWidget* const part : {static_cast<QWidget*>(m_title), m_countsHolder, static_cast<QWidget*>(m_bars),
-                              static_cast<QWidget*>(m_state), m_legend})
+                              static_cast<QWidget*>(m_state), static_cast<QWidget*>(m_luck), m_legend})
     m_grid->removeWidget(part);
   // Where it is narrow the two grids fill it to its edges: no panel around them.
   setProperty("panel", m_wide);
@@ -109,6 +116,8 @@ void WorkbenchStatistics::arrange() {
   if (!m_wide) setFrameShape(QFrame::NoFrame);  // which the style sheet gives, but doesn't take back
   m_title->setVisible(m_wide);
   m_legend->setVisible(m_wide);
+  m_luck->setTwoLines(m_wide);
+  m_luck->raise();
   const int line = QFontMetrics(Theme::current().base()).height();
   const auto meaning = [](int row, int) { return QString::fromUtf8(kMeaning[static_cast<std::size_t>(row)]); };
 
@@ -129,12 +138,14 @@ void WorkbenchStatistics::arrange() {
     m_grid->addWidget(m_title, 0, 0, 1, 2);
     m_grid->addWidget(m_countsHolder, 1, 0, 3, 1);
     m_grid->addWidget(m_bars, 1, 1);
-    m_grid->addWidget(m_state, 2, 1);
+    m_grid->addWidget(m_luck, 2, 1);
+    m_grid->addWidget(m_state, 2, 1, Qt::AlignTop);
     m_grid->addWidget(m_legend, 3, 1);
   } else {
     bars.tight = true;
     m_grid->addWidget(m_countsHolder, 0, 0);
     m_grid->addWidget(m_bars, 1, 0);
+    m_grid->addWidget(m_luck, 2, 0);
     m_grid->addWidget(m_state, 2, 0);
   }
   m_grid->setRowStretch(0, m_wide ? 0 : m_counts->grid().rows());

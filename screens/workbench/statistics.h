@@ -9,6 +9,7 @@ class QGridLayout;
 namespace trv5 {
 
 class GridView;
+class LuckLine;
 class StateMark;
 
 /// Statistiche: how the cases fared, beside every tab of the forecasts.
@@ -25,6 +26,7 @@ class WorkbenchStatistics : public Panel {
   GridView *m_counts, *m_bars;
   QWidget *m_countsHolder, *m_legend;
   StateMark* m_state;
+  LuckLine* m_luck;
   QLabel* m_title;
   QGridLayout* m_grid;
   bool m_wide = false, m_longBars = false;
