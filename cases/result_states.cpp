@@ -146,6 +146,10 @@ constexpr ResultRow kResults[] = {
 constexpr const char* kExpectedMeans =
     "Quanti casi coprirebbe in media la stessa giocata con numeri scelti prima, senza guardare l'archivio";
 
+constexpr const char* kSeenMeans =
+    "Una prova in avanti ha già percorso tutti i casi di questa situazione: ciò che si cerca ora su di essi non è "
+    "più una prova";
+
 std::string labelOf(const ResultRow& row) {
   return std::string("LblStato_") + row.grid;
 }
@@ -190,6 +194,20 @@ void showLuck(Workbench& w) {
   show(w.LblBilancio, luck.balance, luck.toolTip);
 }
 
+// Which cases they are, whatever the draw from which they are looked for, and however many.
+Situation ofAllCases(Situation situation) {
+  situation.reference = situation.maxCases = 0;
+  return situation;
+}
+
+void showSeen(Workbench& w) {
+  const Sources& list = sourcesOf(w, w.FgEv.name());
+  const bool known = w.FgEv.hasData() && !list.empty() && list.front().situation;
+  const auto& seen = w.seenSituations;
+  const bool was = known && std::find(seen.begin(), seen.end(), ofAllCases(*list.front().situation)) != seen.end();
+  show(w.LblVisti, was ? "già visti" : "", was ? kSeenMeans : "");
+}
+
 void showReference(Workbench& w) {
   const int last = w.archive.UltimaEstrazione(), back = last - w.EstrazioneRiferimento;
   w.LblUltima.setText(back > 0 ? fmt::format("{} · {} prima dell'ultima", w.EstrazioneRiferimento, back)
@@ -212,6 +230,12 @@ Origin chosenNow(const Workbench& w) {
   now.configurations = listedConfigurations(w);
   now.grouping = w.origins.groupings;
   return now;
+}
+
+void noteSeenCases(Workbench& w, const Situation& situation) {
+  const Situation seen = ofAllCases(situation);
+  if (std::find(w.seenSituations.begin(), w.seenSituations.end(), seen) == w.seenSituations.end())
+    w.seenSituations.push_back(seen);
 }
 
 Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit) {
@@ -324,6 +348,7 @@ void noteDelays(Workbench& w, bool ofCases) {
 void MostraStati(Workbench& w) {
   showResults(w);
   showLuck(w);
+  showSeen(w);
   showTriedRow(w);
   show(w.LblOrigine, w.FgF.hasData() ? w.origins.ranking : "", w.FgF.hasData() ? w.origins.ranking : "");
   showReference(w);

@@ -50,6 +50,9 @@ void noteDelays(Workbench& w, bool ofCases);
 /// What an operation would find chosen now.
 Origin chosenNow(const Workbench& w);
 
+/// After a test forward has gone through all cases of a situation: whatever is found on them later is known already.
+void noteSeenCases(Workbench& w, const Situation& situation);
+
 /// What the hits of a verification of that table would be made from now.
 Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit = false);
 

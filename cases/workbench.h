@@ -97,6 +97,7 @@ class Workbench : public Form, public WorkbenchState {
 
   // Elenco estrazioni.
   GridControl FgEv{*this, "FgEv", kCaseHeading};  ///< the cases
+  Label LblVisti{*this, "LblVisti"};              ///< that a test forward has gone through them
   Label Label5{*this, "Label5"};                  ///< span of draws covered by the cases
   GridControl FgSSS{*this, "FgSSS", 2, 6};        ///< totals of columns 17..22 of FgEv: hits, covered cases
 
@@ -174,6 +175,8 @@ class Workbench : public Form, public WorkbenchState {
 
   WorkbenchHooks hooks;
   ResultOrigins origins;
+  /// What a test forward has gone through, without reference draw and number of cases. Nothing takes it back.
+  std::vector<Situation> seenSituations;
 
   /// Keeps alive what runs after every operation.
   std::shared_ptr<void> settled;

@@ -15,6 +15,7 @@
 #include "engine/companion_buttons.h"
 #include "engine/evaluation.h"
 #include "engine/formula_tables.h"
+#include "engine/forward_search.h"
 #include "engine/lunghetta.h"
 #include "engine/pure_buttons.h"
 #include "engine/summary.h"
@@ -81,6 +82,8 @@ constexpr WorkbenchButton kElencoEstrazioni[] = {
 constexpr WorkbenchButton kRicerca[] = {
     {"Command3", "Estrae Terzine", "Prepara le terzine di posizioni per 3N 1R", run<EstraeTerzine>},
     {"Cmd_Colora_fgf", "Colora grid", "", run<ColoraFgF>},
+    {"Cmd_Avanti", "Prova in avanti", "Ripete l'ultima ricerca su tutti i casi dell'archivio, ogni volta come allora",
+     run<ApreProvaAvanti>},
     {"Command22", "Verifica riga selezionata", "Verifica la riga della ricerca senza aggiungerla",
      run<verificaRigaRicerca>},
     {"Cmd_Caso", "Quanto è merito del caso?", "Quanto è merito del caso? Confronta la ricerca con archivi sorteggiati",

@@ -76,6 +76,16 @@ NoteAndMark::NoteAndMark(SmallNote* note, StateMark* mark, QWidget* parent)
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
+void NoteAndMark::keepPlace() {
+  m_keepsPlace = true;
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize NoteAndMark::sizeHint() const {
+  const QSize mark = m_mark->sizeHint();
+  return {m_keepsPlace ? m_mark->wholeWidth() : mark.width(), mark.height()};
+}
+
 bool NoteAndMark::event(QEvent* event) {
   if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
     const int mark = m_mark->text().isEmpty() ? 0 : std::min(m_mark->wholeWidth(), width());

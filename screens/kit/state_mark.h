@@ -50,8 +50,10 @@ class NoteAndMark : public QWidget {
   Q_OBJECT
  public:
   NoteAndMark(SmallNote* note, StateMark* mark, QWidget* parent = nullptr);
-  QSize sizeHint() const override { return m_mark->sizeHint(); }
-  QSize minimumSizeHint() const override { return m_mark->sizeHint(); }
+  /// Asks for the room of the whole mark and takes no more.
+  void keepPlace();
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   bool event(QEvent* event) override;
@@ -59,6 +61,7 @@ class NoteAndMark : public QWidget {
  private:
   SmallNote* m_note;
   StateMark* m_mark;
+  bool m_keepsPlace = false;
 };
 
 }  // namespace trv5

@@ -18,6 +18,7 @@
 #include "screens/FunzioniAggiuntive.h"
 #include "screens/INIZIO.h"
 #include "screens/ImportExport.h"
+#include "screens/ProvaAvanti.h"
 #include "screens/SistemiOrtogonali.h"
 #include "screens/Speciale.h"
 #include "screens/VerificaArchivio.h"
@@ -75,6 +76,7 @@ std::vector<ScreenEntry> allScreens() {
       entry<EvoluzioneGrafica, EvoluzioneGraficaScreen>("EvoluzioneGrafica", Place::Framed),
       entry<Caso, CasoScreen>("Caso", Place::Framed, {760, 560}),
       entry<Speciale, SpecialeScreen>("Speciale", Place::Framed, {900, 480}),
+      loaded<ProvaAvanti>(entry<ProvaAvanti, ProvaAvantiScreen>("ProvaAvanti", Place::Framed, {900, 600})),
       loaded<ImportExport>(entry<ImportExport, ImportExportScreen>("ImportExport", Place::Framed, {760, 560})),
       loaded<FunzioniAggiuntive>(
           entry<FunzioniAggiuntive, FunzioniAggiuntiveScreen>("FunzioniAggiuntive", Place::Framed, {520, 320})),

@@ -125,9 +125,12 @@ WorkbenchCases::WorkbenchCases(Workbench& w, QWidget* parent) : QWidget(parent) 
                                             .alike = hits,
                                             .restTo = kDate,
                                             .tight = true});
+  // The list is seen or it is old: one place serves both.
+  auto* const marks = new NoteAndMark(kit.note("LblVisti", Qt::ElideRight, Qt::AlignRight), kit.stateMark("FgEv"));
+  marks->keepPlace();
   setLayout(column(
       {flow({kit.button("Command12", {.icon = "columns"}), kit.button("Command103", {.icon = "map", .iconOnly = true})},
-            {kit.stateMark("FgEv"), kit.button("Command27", {.kind = ButtonKind::Quiet, .icon = "broom"})}),
+            {marks, kit.button("Command27", {.kind = ButtonKind::Quiet, .icon = "broom"})}),
        {cases, 1},
        new CaseTotals(kit, *cases)}));
   setFocusProxy(cases);

@@ -32,7 +32,7 @@ constexpr const char* kRoad[] = {
     "ComboOrdine", "Command28", "Command39", "Command37", "Command31", "Command105", "Command64", "Command46",
     "Command43", "Command45", "Command40", "Command107", "Command73", "Command56", "Command58", "Command57",
     "Command59", "Command108", "Command84", "FgF", "Cmd_LaSorte_1", "Cmd_LaSorte_2", "Cmd_LaSorte_3", "Cmd_LaSorte_6",
-    "ChVerifica", "Command22",
+    "ChVerifica", "Command22", "Cmd_Avanti",
     // Forecasts: table, its buttons, its hits.
     "SSTab3", "Fg11", "Command29", "Command21", "Command90", "Command32", "Command19", "Check3", "FgZ1", "Stampa_FgZ1",
     "Copia_FgZ1", "Command75", "Fg22", "Command34", "Command5", "Rimuove_Fg22", "Nuova_Fg22", "FgZ2", "Stampa_FgZ2",

@@ -18,7 +18,7 @@ struct Command {
   const char* name;
   const char* icon;
 };
-constexpr Command kCommands[] = {{"Cmd_Caso", "die"}};
+constexpr Command kCommands[] = {{"Cmd_Caso", "die"}, {"Cmd_Avanti", "forward"}};
 
 constexpr int kLeastTarget = 24;  // pixels of what is clicked
 

@@ -10,6 +10,7 @@
 
 #include "cases/case_map.h"
 #include "engine/caso.h"
+#include "engine/prova_avanti.h"
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "support/archive_builder.h"
@@ -32,7 +33,7 @@ TEST(WorkbenchButtons, StandOnceEachAndReachTheWorkbench) {
       EXPECT_TRUE(row.run == nullptr || button.toolTip() == row.toolTip) << row.name;
     }
   }
-  EXPECT_EQ(names.size(), 126U);
+  EXPECT_EQ(names.size(), 127U);
 }
 
 TEST(WorkbenchButtons, OpenTheTabsThatHaveAnOperationToOffer) {
@@ -84,6 +85,11 @@ class EveryButton : public testing::Test {
     w.shell.addScreen("ElencoRiscontri", [&w] { return std::make_unique<ElencoRiscontri>(w.shell); });
     w.shell.addScreen("Caso", [&w] { return std::make_unique<Caso>(w.shell); });
     w.shell.addScreen("EvoluzioneGrafica", [&w] { return std::make_unique<EvoluzioneGrafica>(w.shell); });
+    w.shell.addScreen("ProvaAvanti", [&w] {
+      auto test = std::make_unique<ProvaAvanti>(w.archive, w.shell);
+      test->load();
+      return test;
+    });
     w.shell.addScreen("Estrazioni_minielenco", [&w] {
       auto list = std::make_unique<MiniList>(w.archive, w.shell);
       list->load();

@@ -14,8 +14,8 @@ const std::set<std::string> kScratch = {"FgS1", "FgS2", "FgS3", "FgS4", "FgS5", 
 
 // What tells how results stand follows from what their operations note beside what they leave.
 bool tellsOfResults(const std::string& name) {
-  return name.starts_with("LblStato_") || name == "LblOrigine" || name == "LblRigaProvata" || name == "LblAttesi" ||
-         name == "LblBilancio";
+  return name.starts_with("LblStato_") || name == "LblOrigine" || name == "LblRigaProvata" || name == "LblVisti" ||
+         name == "LblAttesi" || name == "LblBilancio";
 }
 
 std::string looks(const Control& control) {
