@@ -32,7 +32,8 @@ struct ForwardTest {
   int number = 0;     ///< that it gave, 1..90
   int colpo = 0;      ///< of its first hit, 0 for none
   double chance = 0;  ///< to be covered by any number fixed beforehand, by the wheel draws of play
-  /// Covered less expected so far, and the bounds that 95 of 100 archives drawn by luck keep at this test.
+  /// Covered less expected so far, and the bounds that about 95 of 100 archives drawn by luck keep at this
+  /// test.
   double ahead = 0, low = 0, high = 0;
 };
 
