@@ -127,6 +127,7 @@ QWidget* Kit::joined(std::initializer_list<std::string_view> names, bool firstSt
     const bool first = i == 0, last = i + 1 == names.size();
     const char* const joint = first && last ? "only" : first ? "first" : last ? "last" : "middle";
     widget->setProperty("joint", QLatin1String(joint));
+    widget->setProperty("brief", !first && control<Button>(name).caption().size() == 2);
     bind(*widget, control<Button>(name));
     layout->addWidget(widget);
     ++i;
@@ -141,6 +142,9 @@ QWidget* Kit::joinedList(std::string_view button, std::string_view list, const Q
   QComboBox* const items = combo(list, widest);
   items->setProperty("joint", QStringLiteral("last"));
   items->setAccessibleName(called);
+  withTheme(*items, [items, widest] {
+    items->setFixedWidth(QFontMetrics(Theme::current().base()).horizontalAdvance(widest) + 21);
+  });
   group->layout()->addWidget(items);
   return group;
 }

@@ -289,6 +289,8 @@ QString Theme::styleSheet() const {
                                                {"@disabled", c.disabled}, {"@accent", c.accent},
                                                {"@onAccent", c.onAccent}, {"@headingText", c.headingText},
                                                {"@heading", c.heading},   {"@danger", c.danger}};
+  // Beside a search, for two letters: 25 px and no less with padding and borders, which are one more at the last.
+  const int brief = std::max(22, QFontMetrics(base()).horizontalAdvance(QStringLiteral("3R")) + 5);
   // The inside of a control: its height without the border of 1 px on both sides.
   const std::pair<const char*, QString> sizes[] = {
       {"@focusTabPad", QString::number(unit() / 2)},
@@ -303,6 +305,8 @@ QString Theme::styleSheet() const {
       {"@focus", QString::number(control() - 4)},
       {"@small", QString::number(smallPoints())},
       {"@large", QString::number(largePoints())},
+      {"@briefLast", QString::number(brief - 1)},
+      {"@brief", QString::number(brief)},
       {"@tabPad", QString::number(unit() / 2 + 2)},
       {"@unit", QString::number(unit())},
       {"@theme", m_dark ? QStringLiteral("dark") : QStringLiteral("light")}};
