@@ -153,11 +153,14 @@ void Caso::showSentences() {
   const bool whole = m_tally->replicas() == m_target;
   LblFrase.setText(whole ? luckSentence(luck) : luckSoFar(luck));
   LblSerie.setText(luckOfLongerSeries(luck) + " " + m_tried);
-  LblColonne.setText(
-      fmt::format("Tue: {} della ricerca che coprono almeno tanti casi. Dal caso: {} in media in un archivio "
-                  "sorteggiato. Archivi: quanti su {} ne hanno almeno {}.",
-                  m_search.numbers ? "i numeri" : "le formule", m_search.numbers ? "quanti" : "quante",
-                  thousands(luck.archives()), m_search.numbers ? "uno" : "una"));
+  LblColonne.setText(fmt::format(
+      "Tue: {} che coprono almeno tanti casi. Dal caso: {} in media in un archivio "
+      "sorteggiato. Archivi: quanti su {} ne hanno almeno {}.",
+      // Of companions the rows of the list are counted, no others.
+      m_search.numbers        ? "i numeri della ricerca"
+      : m_search.companionsOf ? "le formule in elenco"
+                              : "le formule della ricerca",
+      m_search.numbers ? "quanti" : "quante", thousands(luck.archives()), m_search.numbers ? "uno" : "una"));
   showTable(luck);
 }
 

@@ -46,7 +46,7 @@ TEST(LuckTexts, CallAResultRareFromFiftyArchivesInAThousandDown) {
 
 TEST(LuckTexts, TellHowSureTheyAre) {
   EXPECT_EQ(luckOfLongerSeries({.best = 16, .reached = 5389, .replicas = 9999}),
-            "Con molti più sorteggi sarebbero, 19 volte su 20, fra 5.292 e 5.488 su 10.000.");
+            "Con molti più sorteggi sarebbero, 19 volte su 20, fra 5.291 e 5.488 su 10.000.");
 }
 
 TEST(LuckTexts, TellEachRowItsOwnFigure) {
