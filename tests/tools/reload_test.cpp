@@ -18,7 +18,7 @@ TEST(DiDiSO, FollowsAnArchiveThatIsLoadedAnewShorter) {
   EXPECT_EQ(form.hs1.value(), 30);
   world.program->DbArchivio.reset();
   world.makeArchive({rows.begin(), rows.begin() + 20});
-  loadArchive(*world.program);
+  CaricaArchivioExNovo(*world.program);
   EXPECT_EQ(form.hs1.maximum(), 20);
   EXPECT_EQ(form.Label2.text(), "20");
   EXPECT_EQ(form.Label1.text(), world.program->archive.DateEstrazioni(20));
