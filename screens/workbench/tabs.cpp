@@ -36,13 +36,31 @@ QWidget* group(const std::vector<Piece>& pieces) {
   return holding(row(pieces));
 }
 
-// A column that keeps the width of so many figures, or what it needs.
+// A column that keeps the width of so many figures, or what it needs: which it knows only when it stands in its window,
+// whose style makes the buttons wider.
+class NarrowColumn : public QWidget {
+ public:
+  NarrowColumn(QWidget* contents, int figures) : m_figures(figures) {
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(contents);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    withTheme(*this, [this] { updateGeometry(); });
+  }
+  QSize sizeHint() const override { return {wanted(), QWidget::sizeHint().height()}; }
+  QSize minimumSizeHint() const override { return {wanted(), QWidget::minimumSizeHint().height()}; }
+
+ private:
+  int wanted() const {
+    const int told = m_figures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8');
+    return std::max(told, QWidget::minimumSizeHint().width());
+  }
+
+  int m_figures;
+};
+
 QWidget* narrow(QWidget* column, int figures) {
-  withTheme(*column, [column, figures] {
-    const int width = figures * QFontMetrics(Theme::current().base()).horizontalAdvance(u'8');
-    column->setFixedWidth(std::max(width, column->minimumSizeHint().width()));
-  });
-  return column;
+  return new NarrowColumn(column, figures);
 }
 
 const QString kNumber = QStringLiteral("88");
