@@ -147,7 +147,8 @@ QList<int> Sommativi1Screen::defaultSizes(const char* splitter) const {
   if (name == QLatin1String("righe")) {
     const int high = whole.height() - m_bar->height() - 2 * Theme::current().unit() - m_rows->handleWidth();
     const int usual = wide ? high * 54 / 100 : std::min(high * 57 / 100, high - scaled(292));
-    const int most = high - m_bottom->minimumSizeHint().height();
+    // The lower row keeps room for the scroll bar of a grid, which comes and goes.
+    const int most = high - std::max(m_bottom->minimumSizeHint().height(), scaled(246));
     return pair(std::min(std::max(usual, leastTop(wide)), most), high);
   }
   if (name == QLatin1String("sopra")) {

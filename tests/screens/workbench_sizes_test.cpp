@@ -11,18 +11,23 @@ namespace trv5 {
 namespace {
 
 // The sizes of all splitters, for one picture to be laid beside another.
-std::vector<QList<int>> splitterSizes(const Sommativi1Screen& bench) {
-  std::vector<QList<int>> all;
+struct Shares {
+  std::string splitter;
+  QList<int> sizes;
+};
+std::vector<Shares> splitterSizes(const Sommativi1Screen& bench) {
+  std::vector<Shares> all;
   for (const auto* const splitter : bench.findChildren<QSplitter*>())
-    if (splitter->isVisible()) all.push_back(splitter->sizes());
+    if (splitter->isVisible()) all.push_back({splitter->objectName().toStdString(), splitter->sizes()});
   return all;
 }
 
 // As before, but for the pixels that rounding shares out.
-void expectSame(const std::vector<QList<int>>& now, const std::vector<QList<int>>& before, const std::string& when) {
+void expectSame(const std::vector<Shares>& now, const std::vector<Shares>& before, const std::string& when) {
   ASSERT_EQ(now.size(), before.size()) << when;
   for (std::size_t i = 0; i < now.size(); ++i)
-    for (int part = 0; part < now[i].size(); ++part) EXPECT_NEAR(now[i][part], before[i][part], 2) << when;
+    for (int part = 0; part < now[i].sizes.size(); ++part)
+      EXPECT_NEAR(now[i].sizes[part], before[i].sizes[part], 2) << now[i].splitter << ' ' << when;
 }
 
 int rowsInSight(const GridView& view) {
