@@ -13,18 +13,17 @@ ensure_packages "${packages[@]}" clang-format python3-pyftpdlib mdbtools
 phase "Sources"
 scripts/check_sources.sh
 
-# run_tests PRESET [CTEST OPTION...]: a process for each test. Twice as many at a time as there are cores: some wait for
-# locks.
+# run_tests PRESET [CTEST OPTION...]: a process for each test.
 run_tests() {
   local preset=$1
   shift
   phase "Tests of $preset"
   QT_QPA_PLATFORM=offscreen ctest --test-dir "build/$preset" --output-on-failure --no-tests=error \
-    --parallel $((2 * $(nproc))) "$@"
+    --parallel "$(nproc)" "$@"
 }
 
 # run_programs PRESET: its test programs, each in a few processes that share its tests. The start of the sanitizers would
-# take a third of the time with a process for each test.
+# take a third of the time with a process for each test. Twice as many at a time as there are cores: some wait for locks.
 run_programs() {
   local program shard shards=4 programs=("build/$1"/bin/test_*)
   phase "Tests of $1"
