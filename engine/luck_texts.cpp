@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include "chance/intervals.h"
+#include "core/figures.h"
 #include "core/text.h"
 
 namespace trv5 {
@@ -38,18 +38,11 @@ std::string sentence(const LuckOfBest& luck, const char* begin) {
 }  // namespace
 
 std::string thousands(std::int64_t value) {
-  std::string digits = std::to_string(value);
-  for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
-    digits.insert(static_cast<std::size_t>(at), 1, '.');
-  return digits;
+  return figureText(static_cast<double>(value));
 }
 
 std::string oneDecimal(double value) {
-  std::string text = fmt::format("{:.1f}", value);
-  std::replace(text.begin(), text.end(), '.', ',');
-  const std::size_t whole = text.find(',');
-  for (std::size_t at = whole; at > 3; at -= 3) text.insert(at - 3, 1, '.');
-  return text;
+  return figureText(value, 1);
 }
 
 std::string luckSentence(const LuckOfBest& luck) {
