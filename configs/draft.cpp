@@ -11,6 +11,7 @@
 #include "configs/exchange.h"
 #include "configs/workbench_configuration.h"
 #include "core/database_files.h"
+#include "core/file_writer.h"
 
 namespace trv5 {
 namespace {
@@ -69,7 +70,7 @@ void keepDraft(const Workbench& w) {
     Database database(fresh, FileKind::Export);
     saveConfiguration(database, draftOf(w));
   }
-  std::filesystem::rename(fresh, file);
+  takePlace(fresh, file);
 }
 
 std::optional<DateTime> draftTime(const Workbench& w) {

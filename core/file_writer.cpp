@@ -86,6 +86,11 @@ void syncFolder(const fs::path& folder) {
   close(descriptor);
 }
 
+UserError notWritten(const fs::path& target, int error) {
+  return UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", target.string(), reasonOf(error)),
+                   "Avviso", std::strerror(error));
+}
+
 }  // namespace
 
 std::string reasonOf(int error) {
@@ -196,14 +201,18 @@ void PendingFile::commit(Existing existing) {
 }
 
 void PendingFile::fail(int error) const {
-  throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", m_target.string(), reasonOf(error)),
-                  "Avviso", std::strerror(error));
+  throw notWritten(m_target, error);
 }
 
 void writeFile(const fs::path& target, std::string_view bytes, Existing existing) {
   PendingFile file(target);
   file.write(bytes);
   file.commit(existing);
+}
+
+void takePlace(const fs::path& file, const fs::path& target) {
+  if (rename(file.c_str(), target.c_str()) != 0) throw notWritten(target, errno);
+  syncFolder(target.parent_path());
 }
 
 std::string readFile(const fs::path& file, std::size_t maxBytes) {

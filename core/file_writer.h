@@ -41,6 +41,10 @@ class PendingFile {
 /// PendingFile, databases in use excepted.
 void writeFile(const std::filesystem::path& target, std::string_view bytes, Existing existing = Existing::Replace);
 
+/// Gives a finished file the place of `target`, in the same folder, whether or not one stands there; what the file
+/// holds has to be synced. On the disk once it returns. Throws UserError and names the target.
+void takePlace(const std::filesystem::path& file, const std::filesystem::path& target);
+
 /// The most that is read of a file where nothing else is told, in bytes.
 inline constexpr std::size_t kLargestRead = std::size_t{256} << 20;
 

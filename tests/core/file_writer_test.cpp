@@ -127,6 +127,22 @@ TEST(FileWriter, ReadingAMissingFileNamesIt) {
   }
 }
 
+TEST(FileWriter, AFinishedFileTakesThePlaceOfAnother) {
+  TempFolder folder;
+  writeFile(folder / "nuovo", "nuovo");
+  writeFile(folder / "a.txt", "vecchio");
+  takePlace(folder / "nuovo", folder / "a.txt");
+  EXPECT_EQ(readFile(folder / "a.txt"), "nuovo");
+  EXPECT_EQ(filesIn(folder), 1);
+  try {
+    takePlace(folder / "manca", folder / "a.txt");
+    FAIL();
+  } catch (const UserError& error) {
+    EXPECT_THAT(error.what(), HasSubstr("a.txt\" non può essere scritto: il file o la cartella non esiste"));
+  }
+  EXPECT_EQ(readFile(folder / "a.txt"), "nuovo");
+}
+
 TEST(FileWriter, TellsAFullDiskInItalian) {
   EXPECT_EQ(reasonOf(ENOSPC), "il disco è pieno");
   EXPECT_EQ(reasonOf(EROFS), "il disco è in sola lettura");
