@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <functional>
+#include <memory>
 
 #include "core/database_marks.h"
 #include "core/dates.h"
@@ -20,34 +21,45 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// `system`: the error behind it as the library keeps it, 0 for none.
+[[noreturn]] void failCreation(const fs::path& file, const SQLite::Exception& error, int system) {
+  std::string reason = "un dato non è ammesso o la libreria dei dati dà un errore";
+  const int code = error.getErrorCode() & 0xFF;
+  // Behind a write that came short the library keeps no error of the system's.
+  if (code == SQLITE_FULL || code == SQLITE_IOERR) reason = reasonOf(system != 0 ? system : ENOSPC);
+  if (code == SQLITE_CANTOPEN) reason = reasonOf(system != 0 ? system : EIO);
+  throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(), reason), "Avviso",
+                  error.what());
+}
+
+void fillFile(SQLite::Database& database, FileKind kind, std::string_view password,
+              const std::function<void(SQLite::Database&)>& fill) {
+  database.exec("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
+  database.exec(
+      fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {}", applicationId(kind), kSchemaVersion));
+  if (!password.empty()) {
+    database.exec(kPasswordSchema);
+    SQLite::Statement insert(database, "INSERT INTO Protezione VALUES (?)");
+    insert.bind(1, passwordHash(password));
+    insert.exec();
+  }
+  fill(database);
+  database.exec("COMMIT");
+}
+
 // A file in the making is nobody's yet: no journal, no sync until it is whole. PendingFile syncs it and gives it its
 // name; half a file is never seen.
 void createFile(const fs::path& file, FileKind kind, Existing existing, std::string_view password,
                 const std::function<void(SQLite::Database&)>& fill) {
   PendingFile pending(file);
-  {
-    SQLite::Database database(pending.path().string(), SQLite::OPEN_READWRITE);
-    try {
-      database.exec("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA foreign_keys = ON; BEGIN");
-      database.exec(
-          fmt::format("PRAGMA application_id = {}; PRAGMA user_version = {}", applicationId(kind), kSchemaVersion));
-      if (!password.empty()) {
-        database.exec(kPasswordSchema);
-        SQLite::Statement insert(database, "INSERT INTO Protezione VALUES (?)");
-        insert.bind(1, passwordHash(password));
-        insert.exec();
-      }
-      fill(database);
-      database.exec("COMMIT");
-    } catch (const SQLite::Exception& error) {
-      const int system = sqlite3_system_errno(database.getHandle());
-      const bool systemFailed = error.getErrorCode() == SQLITE_FULL || error.getErrorCode() == SQLITE_IOERR;
-      throw UserError(fmt::format("Il file \"{}\" non può essere scritto: {}.", file.string(),
-                                  systemFailed ? reasonOf(system != 0 ? system : ENOSPC)
-                                               : "un dato non è ammesso o la libreria dei dati dà un errore"),
-                      "Avviso", error.what());
-    }
+  std::unique_ptr<SQLite::Database> database;
+  try {
+    database = std::make_unique<SQLite::Database>(pending.path().string(), SQLite::OPEN_READWRITE);
+    fillFile(*database, kind, password, fill);
+  } catch (const SQLite::Exception& error) {
+    failCreation(file, error, database == nullptr ? 0 : sqlite3_system_errno(database->getHandle()));
   }
+  database.reset();
   pending.commit(existing);
 }
 
