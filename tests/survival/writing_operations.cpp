@@ -91,8 +91,12 @@ std::vector<WritingOperation> drawOperations() {
                  world.archivio().Command21.press();
                },
            .run = [](WritingWorld& world) { world.archivio().Command28.press(); },
-           .database = archiveOf},
-          {.name = "AccettaEstrazioniCambiate",
+           .database = archiveOf}};
+}
+
+// The sums of the draws, which are written with them and by themselves.
+std::vector<WritingOperation> sumOperations() {
+  return {{.name = "AccettaEstrazioniCambiate",
            .files =
                [](WritingWorld& world) {
                  const OtherProgram other(world.folder / "Archivio.mdb",
@@ -139,8 +143,11 @@ std::vector<WritingOperation> configurationOperations() {
                  world.shell.answerYes();
                },
            .run = [](WritingWorld& world) { world.press("Command54"); },
-           .database = mainOf},
-          {.name = "ImportaConfigurazione",
+           .database = mainOf}};
+}
+
+std::vector<WritingOperation> exchangeOperations() {
+  return {{.name = "ImportaConfigurazione",
            .files =
                [](WritingWorld& world) {
                  createExportFile(world.importFile(), Existing::Replace);
@@ -165,8 +172,11 @@ std::vector<WritingOperation> configurationOperations() {
                },
            .ready = [](WritingWorld& world) { exchangeOn(world, world.folder / "TRV5_Export.mdb"); },
            .run = [](WritingWorld& world) { world.exchange().Command3.press(); },
-           .between = statesOfExport},
-          {.name = "BozzaDelBanco", .ready = layMethod, .run = [](WritingWorld& world) { keepDraft(world.w()); }},
+           .between = statesOfExport}};
+}
+
+std::vector<WritingOperation> draftOperations() {
+  return {{.name = "BozzaDelBanco", .ready = layMethod, .run = [](WritingWorld& world) { keepDraft(world.w()); }},
           {.name = "BozzaAlPostoDellaPrecedente",
            .files =
                [](WritingWorld& world) {
@@ -181,7 +191,7 @@ std::vector<WritingOperation> configurationOperations() {
            .run = [](WritingWorld& world) { keepDraft(world.w()); }}};
 }
 
-std::vector<WritingOperation> otherOperations() {
+std::vector<WritingOperation> settingOperations() {
   return {{.name = "AggiungeCampoDDS",
            .files =
                [](WritingWorld& world) {
@@ -220,8 +230,11 @@ std::vector<WritingOperation> otherOperations() {
                  world.shell.answerFile(world.folder / "Archivio2.mdb");
                  world.shell.show("INIZIO");
                },
-           .run = [](WritingWorld& world) { world.inizio().Command4.press(); }},
-          {.name = "SalvaDatiIii",
+           .run = [](WritingWorld& world) { world.inizio().Command4.press(); }}};
+}
+
+std::vector<WritingOperation> fileOperations() {
+  return {{.name = "SalvaDatiIii",
            .files = [](WritingWorld& world) { writeBytes(world.folder / "Dati.iii", std::string(5000, 'v')); },
            .ready = [](WritingWorld& world) { world.shell.answerFile(world.folder / "Dati.iii"); },
            .run = [](WritingWorld& world) { world.archivio().Command10.press(); }},
@@ -241,9 +254,10 @@ std::vector<WritingOperation> otherOperations() {
 
 const std::vector<WritingOperation>& writingOperations() {
   static const std::vector<WritingOperation> all = [] {
-    std::vector<WritingOperation> operations = drawOperations();
-    for (const auto& more : {configurationOperations(), otherOperations()})
-      operations.insert(operations.end(), more.begin(), more.end());
+    std::vector<WritingOperation> operations;
+    for (const auto group : {drawOperations, sumOperations, configurationOperations, exchangeOperations,
+                             draftOperations, settingOperations, fileOperations})
+      for (WritingOperation& operation : group()) operations.push_back(std::move(operation));
     return operations;
   }();
   return all;
