@@ -112,6 +112,10 @@ DatabaseError errorOf(std::string_view attempt, const fs::path& file, Reason rea
           std::move(details)};
 }
 
+DatabaseError noMemory(const fs::path& file) {
+  return errorOf("letto", file, Reason::Other, reasonOf(ENOMEM));
+}
+
 // Nothing is opened that could make the program wait or fill its memory.
 void refuseSpecialFiles(const fs::path& file, FileKind kind, const struct stat& status) {
   if (!S_ISREG(status.st_mode)) throw errorOf("aperto", file, Reason::NotADatabase);
@@ -154,7 +158,12 @@ Statement& Statement::bind(int parameter, std::int64_t value) {
 }
 
 Statement& Statement::bind(int parameter, std::string_view text) {
-  m_statement->bind(parameter, std::string(text));
+  if (text.size() > kLongestText) throw errorOf("scritto", m_database->path(), Reason::Constraint);
+  try {
+    m_statement->bind(parameter, std::string(text));
+  } catch (const SQLite::Exception&) {
+    m_database->fail("usato");
+  }
   return *this;
 }
 
@@ -198,7 +207,9 @@ int Statement::columns() const {
 }
 
 std::string Statement::columnName(int column) const {
-  return m_statement->getColumnName(column);
+  const char* const name = m_statement->getColumnName(column);
+  if (name == nullptr) throw noMemory(m_database->path());
+  return name;
 }
 
 bool Statement::isNull(int column) const {
@@ -211,8 +222,11 @@ std::int64_t Statement::number(int column) const {
 
 std::string_view Statement::view(int column) const {
   const SQLite::Column value = m_statement->getColumn(column);
-  const char* const text = value.getText();  // before getBytes, which counts the bytes of the text form
-  return {text, static_cast<std::size_t>(value.getBytes())};
+  const char* const text = value.getText(nullptr);  // before getBytes, which counts the bytes of the text form
+  if (text != nullptr) return {text, static_cast<std::size_t>(value.getBytes())};
+  // No text though there is a value: a wheel would pass for one that wasn't drawn.
+  if (sqlite3_errcode(m_database->m_database->getHandle()) == SQLITE_NOMEM) throw noMemory(m_database->path());
+  return "";
 }
 
 Database::Database(const fs::path& file, FileKind kind, std::string_view password) {
@@ -350,6 +364,7 @@ void Database::fail(std::string_view attempt) const {
     // Behind a failed read or write of the disk stands a reason of the system's.
     const int extended = error.getExtendedErrorCode(), code = extended & 0xFF;
     const int system = m_database == nullptr ? 0 : sqlite3_system_errno(m_database->getHandle());
+    if (code == SQLITE_NOMEM) throw errorOf(attempt, m_path, Reason::Other, reasonOf(ENOMEM), error.what());
     const bool systemFailed = (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && system != 0;
     throw errorOf(attempt, m_path, reasonOfCode(extended, m_readOnly), systemFailed ? reasonOf(system) : std::string(),
                   error.what());

@@ -355,5 +355,18 @@ TEST(Database, TakesANameWithAccentsBlanksAndQuestionMarks) {
   EXPECT_EQ(failureOf(file), std::nullopt);
 }
 
+TEST(DatabaseTexts, OneLongerThanARowTakesIsRefusedInItalian) {
+  TempFolder folder;
+  createArchive(folder / "a.mdb", someDraws(), Existing::Refuse);
+  const Database archive(folder / "a.mdb", FileKind::Archive);
+  Statement seek = archive.prepare("SELECT 1 FROM EstrazioniLotto WHERE Ba = ?");
+  try {
+    seek.bind(1, std::string(2'000'000, 'x'));
+    FAIL();
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.reason(), Reason::Constraint);
+  }
+}
+
 }  // namespace
 }  // namespace trv5
