@@ -1,5 +1,7 @@
 #include "core/user_act.h"
 
+#include <exception>
+
 #include "core/form.h"
 
 namespace trv5 {
@@ -14,7 +16,13 @@ UserAct::UserAct(Form& form, const Control* source, bool moves) : m_form(nullptr
 UserAct::~UserAct() {
   if (m_form == nullptr) return;
   m_form->m_acting = false;
-  if (m_form->m_acts != nullptr) m_form->m_acts->actEnds(m_source, m_moves);
+  if (m_form->m_acts == nullptr) return;
+  try {
+    m_form->m_acts->actEnds(m_source, m_moves);
+  } catch (const std::exception&) {
+    // What the act did stands, and its result is told already. Where memory ends for the step of the history, the next
+    // act's step takes both back.
+  }
 }
 
 }  // namespace trv5

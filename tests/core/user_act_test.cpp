@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "core/controls.h"
 #include "core/errors.h"
 #include "support/fake_shell.h"
@@ -16,6 +18,7 @@ class UserActs : public testing::Test, public ActListener {
 
   void actBegins() override { valueAtBegin = scroll.value(); }
   void actEnds(const Control* source, bool moves) override {
+    if (memoryEnds) throw std::bad_alloc();
     acts.push_back((source == nullptr ? "modulo" : source->name()) + (moves ? " scorre" : ""));
   }
   bool typingIn(const Control&) const override { return false; }
@@ -31,6 +34,7 @@ class UserActs : public testing::Test, public ActListener {
   GridControl grid{form, "Grid", 3, 3};
   std::vector<std::string> acts;
   int valueAtBegin = 0;
+  bool memoryEnds = false;
 };
 
 using Acts = std::vector<std::string>;
@@ -58,6 +62,17 @@ TEST_F(UserActs, EndAlsoWhereTheOperationFails) {
   });
   button.press();
   EXPECT_EQ(shell.texts(), Acts{"Il disco è pieno."});
+  EXPECT_EQ(acts, Acts{"Button"});
+}
+
+TEST_F(UserActs, StandWhereMemoryEndsForTheirStep) {
+  memoryEnds = true;
+  button.onEvent([&] { scroll.set(7); });
+  button.press();
+  EXPECT_EQ(scroll.value(), 7);
+  EXPECT_EQ(shell.texts(), Acts{});
+  memoryEnds = false;
+  button.press();
   EXPECT_EQ(acts, Acts{"Button"});
 }
 
