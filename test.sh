@@ -5,6 +5,9 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . scripts/setup.sh
 
+# ./test.sh --coverage: only how much of the layers without Qt their tests run.
+if [ "${1:-}" = --coverage ]; then exec scripts/coverage.sh; fi
+
 phase() { printf '\n== %s (%d s)\n' "$*" "$SECONDS"; }
 
 phase "Packages"

@@ -27,6 +27,11 @@ if(TRV5_SANITIZE)
   target_link_options(trv5_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(TRV5_COVERAGE)
+  target_compile_options(trv5_options INTERFACE --coverage)
+  target_link_options(trv5_options INTERFACE --coverage)
+endif()
+
 # trv5_layer(engine USES cases core LINKS fmt::fmt): the library trv5_engine out of all sources of this folder and those
 # inside it. Its include root holds one link, roots/engine/engine -> <source>/engine, so that "engine/hit_rows.h" is
 # found by the users of engine only and an include in the wrong direction doesn't build. EXCEPT names sources of another
