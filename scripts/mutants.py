@@ -1,0 +1,111 @@
+#!/usr/bin/env python3
+"""Changes the engine in one place at a time, a comparison, a bound or a constant, and looks whether its tests notice.
+
+    scripts/mutants.py [HOW_MANY] [FIRST]
+
+Works on a copy of the sources in build/mutants, built without Qt. A mutant is killed by a test that fails, crashes or
+doesn't end; those that no test kills are printed and written to build/mutants/survivors.txt, to be looked at one by one:
+each is a missing test or a change that changes nothing. The choice is the same in every run; FIRST passes over as many
+mutants of it.
+"""
+import os
+import pathlib
+import random
+import re
+import shutil
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+PLACE = ROOT / "build" / "mutants"
+SOURCES = ["method/vote_counter.cpp", "method/vote_rings.cpp", "method/vote_rings.h", "method/evaluation.cpp",
+           "method/verification.cpp", "method/hits.cpp", "method/detection.cpp", "method/formula_values.cpp",
+           "method/formula_values.h", "method/element_sets.cpp", "method/ambata_search.cpp",
+           "method/companion_search.cpp", "method/companion_counts.cpp", "method/candidate_check.cpp",
+           "method/elaboration.cpp", "method/number_count.cpp", "engine/verification.cpp",
+           "engine/candidate_check.cpp", "engine/evaluation.cpp", "core/numbers.h"]
+TESTS = ["test_method", "test_engine"]
+LONGEST = 600  # seconds of one test program, on a machine that does other things too
+
+# What stands in the code, and what takes its place.
+CHANGES = [(r" <= ", " < "), (r" < ", " <= "), (r" >= ", " > "), (r" > ", " >= "), (r" == ", " != "), (r" != ", " == "),
+           (r" && ", " || "), (r" \|\| ", " && "), (r" \+ 1\b", " + 2"), (r" - 1\b", " - 0"), (r" \+ ", " - "),
+           (r"= 1;", "= 0;"), (r"= 0;", "= 1;"), (r"\b90\b", "89"), (r"\b91\b", "90"), (r"\bkPositions\b", "(kPositions - 1)"),
+           (r"\bkWheels\b", "(kWheels - 1)"), (r"\btrue\b", "false"), (r"\bfalse\b", "true")]
+
+
+def mutants(copy):
+    """All places of all changes: file, number of the line, the line as it would read."""
+    found = []
+    for name in SOURCES:
+        if not (copy / name).exists():
+            continue
+        for number, line in enumerate((copy / name).read_text(encoding="utf-8").splitlines()):
+            code = line.split("//")[0]
+            if code.lstrip().startswith(("#", "template", "using", "static_assert")) or '"' in code:
+                continue
+            for pattern, instead in CHANGES:
+                for match in re.finditer(pattern, code):
+                    found.append((name, number, line[:match.start()] + instead + line[match.end():]))
+    random.Random(90).shuffle(found)
+    return found
+
+
+def build():
+    return subprocess.run(["cmake", "--build", PLACE / "build", "--target", *TESTS], capture_output=True).returncode == 0
+
+
+def killed():
+    """Whether a test notices: a share of the random settings first, which is enough for most, then all of them."""
+    for share in ("5", "100"):
+        for test in TESTS:
+            try:
+                if subprocess.run([PLACE / "build" / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
+                                  capture_output=True, timeout=LONGEST,
+                                  env={**os.environ, "TRV5_RANDOM_SHARE": share}).returncode != 0:
+                    return True
+            except subprocess.TimeoutExpired:
+                return True
+    return False
+
+
+def prepare():
+    copy = PLACE / "source"
+    shutil.rmtree(copy, ignore_errors=True)
+    shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns(".git", "build"))
+    subprocess.run(["cmake", "-S", copy, "-B", PLACE / "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
+                    "-DTRV5_GUI=OFF"], check=True, capture_output=True)
+    if not build() or killed():
+        sys.exit("The tests have to pass before anything is changed.")
+    return copy
+
+
+def main():
+    count = int(sys.argv[1]) if len(sys.argv) > 1 else 200
+    first = int(sys.argv[2]) if len(sys.argv) > 2 else 0
+    copy = prepare()
+    survivors, dead, unbuilt = [], 0, 0
+    for name, number, changed in mutants(copy)[first:]:
+        if dead + len(survivors) == count:
+            break
+        file = copy / name
+        whole = file.read_text(encoding="utf-8")
+        lines = whole.splitlines(keepends=True)
+        before, lines[number] = lines[number].strip(), changed + "\n"
+        file.write_text("".join(lines), encoding="utf-8")
+        if not build():
+            unbuilt += 1  # the compiler noticed: no mutant
+        elif killed():
+            dead += 1
+        else:
+            survivors.append(f"{name}:{number + 1}: {before}  ->  {changed.strip()}")
+            print("survived", survivors[-1], flush=True)
+        file.write_text(whole, encoding="utf-8")
+    (PLACE / "survivors.txt").write_text("".join(line + "\n" for line in survivors), encoding="utf-8")
+    share = 100.0 * dead / max(1, dead + len(survivors))
+    print(f"{dead + len(survivors)} mutants, {dead} killed ({share:.1f} %), {unbuilt} more didn't build")
+    return 0 if share >= 95.0 else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
