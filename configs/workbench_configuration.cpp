@@ -11,7 +11,7 @@ namespace trv5 {
 namespace {
 
 // More rows than any table of formulas takes; a file may ask for more.
-constexpr std::int64_t kMostRows = 10'000;
+constexpr std::int64_t kMostGridRows = 10'000;
 
 std::int64_t numberIn(const FieldValue& value) {
   if (const auto* const number = std::get_if<std::int64_t>(&value)) return *number;
@@ -75,7 +75,7 @@ constexpr ConfigurationField wheels(std::string_view name) {
 template <auto grid>
 constexpr ConfigurationField rowCount(std::string_view name) {
   return {name, ReloadStep::RowCounts, true, [](const Workbench& w) -> FieldValue { return (w.*grid).rows(); },
-          [](Workbench& w, const FieldValue& value) { (w.*grid).setRows(numberIn(value, 1, kMostRows)); }};
+          [](Workbench& w, const FieldValue& value) { (w.*grid).setRows(numberIn(value, 1, kMostGridRows)); }};
 }
 
 FieldValue readDraw(const Workbench& w) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "console/arguments.h"
+#include "console/control_actions.h"
 #include "console/grid_dump.h"
 #include "core/dates.h"
 #include "core/errors.h"
@@ -24,12 +25,6 @@ std::string jsonText(const std::string& text) {
 
 std::string failure(const std::string& error) {
   return "{\"ok\":false,\"error\":" + jsonText(error) + "}";
-}
-
-// The fields of an object, to stand beside "ok".
-std::string fields(const nlohmann::json& object) {
-  const std::string text = object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  return text.substr(1, text.size() - 2);
 }
 
 nlohmann::json describe(const Script::Shown& box) {
@@ -172,8 +167,9 @@ std::string Console::dump(const Arguments& line) {
 
 std::string Console::list(const Arguments& line) {
   const Control* const control = target(line).control;
-  if (const auto* const combo = dynamic_cast<const Combo*>(control)) return fields({{"items", combo->items()}});
-  if (const auto* const lines = dynamic_cast<const LineList*>(control)) return fields({{"items", lines->lines()}});
+  if (const auto* const combo = dynamic_cast<const Combo*>(control)) return answerFields({{"items", combo->items()}});
+  if (const auto* const lines = dynamic_cast<const LineList*>(control))
+    return answerFields({{"items", lines->lines()}});
   throw LineError("non è una lista: " + textArgument(line, 2));
 }
 
@@ -193,12 +189,12 @@ std::string Console::queueAnswer(const Arguments& line) {
 std::string Console::messages(const Arguments&) {
   nlohmann::json all = nlohmann::json::array();
   for (const Script::Shown& shown : std::exchange(m_script.messages, {})) all.push_back(describe(shown));
-  return fields({{"messages", std::move(all)}});
+  return answerFields({{"messages", std::move(all)}});
 }
 
 std::string Console::clipboard(const Arguments& line) {
   if (line.size() > 1) shell().setClipboard(textArgument(line, 1));
-  return fields({{"text", shell().clipboard()}});
+  return answerFields({{"text", shell().clipboard()}});
 }
 
 std::string Console::clock(const Arguments& line) {
@@ -218,8 +214,8 @@ std::string Console::clock(const Arguments& line) {
 }
 
 std::string Console::screens(const Arguments&) {
-  if (m_shell == nullptr || m_shell->ended()) return fields({{"screens", nlohmann::json::array()}});
-  return fields({{"screens", m_shell->openScreens()}});
+  if (m_shell == nullptr || m_shell->ended()) return answerFields({{"screens", nlohmann::json::array()}});
+  return answerFields({{"screens", m_shell->openScreens()}});
 }
 
 std::string Console::quit(const Arguments&) {

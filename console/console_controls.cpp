@@ -10,15 +10,6 @@
 #include "screens/kit/theme.h"
 
 namespace trv5 {
-namespace {
-
-std::string fields(const nlohmann::json& object) {
-  const std::string text = object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
-  return text.substr(1, text.size() - 2);
-}
-
-}  // namespace
-
 std::string Console::click(const Arguments& line) {
   const Target found = enabledTarget(line);
   clickControl(found.control, found.widget);
@@ -45,17 +36,17 @@ std::string Console::get(const Arguments& line) {
   if (textArgument(line, 2).empty()) {
     const Target found = screenOf(line);
     const std::string title = found.screen->windowTitle().toStdString();
-    return fields({{"title", title}, {"help", found.form == nullptr ? 0 : found.form->helpContext()}});
+    return answerFields({{"title", title}, {"help", found.form == nullptr ? 0 : found.form->helpContext()}});
   }
   const Target found = target(line);
-  if (found.control != nullptr) return fields(describeControl(*found.control));
+  if (found.control != nullptr) return answerFields(describeControl(*found.control));
   nlohmann::json out = {{"enabled", found.widget->isEnabled()}, {"tooltip", found.widget->toolTip().toStdString()}};
   if (const auto* const label = qobject_cast<const QLabel*>(found.widget)) out["text"] = label->text().toStdString();
   if (const auto* const page = qobject_cast<const QTextBrowser*>(found.widget)) {
     out["text"] = page->toPlainText().toStdString();
     out["value"] = page->source().toString().toStdString();
   }
-  return fields(out);
+  return answerFields(out);
 }
 
 std::string Console::cell(const Arguments& line) {

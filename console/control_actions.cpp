@@ -136,6 +136,11 @@ void setControl(Control& control, QWidget* widget, const nlohmann::json& value) 
   throw LineError("il controllo non ha un valore da impostare: " + control.name());
 }
 
+std::string answerFields(const nlohmann::json& object) {
+  const std::string text = object.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  return text.substr(1, text.size() - 2);
+}
+
 nlohmann::json describeControl(const Control& control) {
   nlohmann::json out;
   if (const auto* const button = dynamic_cast<const Button*>(&control)) out["text"] = button->caption();

@@ -5,10 +5,11 @@
 
 namespace trv5 {
 
-inline constexpr int kWheels = 11;     ///< wheel indices 0..10, the national wheel last
-inline constexpr int kPositions = 5;   ///< positions 1..5 in the order of extraction
-inline constexpr int kNational = 10;   ///< index of the national wheel
-inline constexpr int kAllWheels = 11;  ///< stands for all the wheels, code "TU"
+inline constexpr int kWheels = 11;          ///< wheel indices 0..10, the national wheel last
+inline constexpr int kRegionalWheels = 10;  ///< all but the national wheel
+inline constexpr int kPositions = 5;        ///< positions 1..5 in the order of extraction
+inline constexpr int kNational = 10;        ///< index of the national wheel
+inline constexpr int kAllWheels = 11;       ///< stands for all the wheels, code "TU"
 
 /// Wheel codes by index 0..11, as the grids show them.
 inline constexpr std::array<std::string_view, 12> CodiciRuote = {"BA", "CA", "FI", "GE", "MI", "NA",

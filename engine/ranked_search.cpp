@@ -22,7 +22,7 @@ std::string withArticle(int count) {
   return fmt::format("{} {}", count == 8 || count == 11 || (count >= 80 && count < 90) ? "gli" : "i", count);
 }
 
-std::string casesText(int cases) {
+std::string casesAndDraws(int cases) {
   return cases == 1 ? "il caso, la sua estrazione" : fmt::format("{} casi, le loro estrazioni", withArticle(cases));
 }
 
@@ -52,10 +52,11 @@ std::string heldFixed(const AmbataRequest& request, int wheelsOfSet) {
   const auto fixes =
       request.withFix ? std::count(request.allowedFix.begin(), request.allowedFix.end(), true) : std::ptrdiff_t{1};
   const auto formulas = static_cast<std::int64_t>(sets) * fixes * static_cast<std::int64_t>(request.wheelSets.size());
-  return fmt::format(
-      "Restano fermi {}, {}, {} e la ricerca: {}, {} formule. {}", casesText(static_cast<int>(request.cases.size())),
-      wheelsText(request.wheelSets.empty() ? 0 : request.wheelSets.front(), wheelsOfSet), colpiText(request.colpi),
-      waysText(request, sets, static_cast<int>(fixes)), thousands(formulas), kNewNumbers);
+  return fmt::format("Restano fermi {}, {}, {} e la ricerca: {}, {} formule. {}",
+                     casesAndDraws(static_cast<int>(request.cases.size())),
+                     wheelsText(request.wheelSets.empty() ? 0 : request.wheelSets.front(), wheelsOfSet),
+                     colpiText(request.colpi), waysText(request, sets, static_cast<int>(fixes)), thousands(formulas),
+                     kNewNumbers);
 }
 
 // The rows of candidates as the ranking holds them.
@@ -83,7 +84,7 @@ RankedSearch rankedNumbers(const Workbench& w, const std::vector<int>& cases) {
   return {.repeat = repeat,
           .numbers = true,
           .heldFixed = fmt::format("Restano fermi {}, {} e {}; si provano tutti i 90 numeri. {}",
-                                   casesText(static_cast<int>(cases.size())), wheelsText(w.RuoteGioco, 0),
+                                   casesAndDraws(static_cast<int>(cases.size())), wheelsText(w.RuoteGioco, 0),
                                    colpiText(w.Colpi), kNewNumbers)};
 }
 
@@ -94,7 +95,7 @@ RankedSearch rankedCompanions(const Workbench& w, const CompanionRequest& reques
   search.heldFixed = fmt::format(
       "Restano fermi {}, {}, {} e le {} sortite da cui la ricerca parte, con i numeri in gioco che vi sono usciti. "
       "Nuovi sono solo gli altri numeri di quelle ruote.",
-      casesText(static_cast<int>(verification.caseDraws.size())), wheelsText(request.wheels, 0), colpiText(w.Colpi),
+      casesAndDraws(static_cast<int>(verification.caseDraws.size())), wheelsText(request.wheels, 0), colpiText(w.Colpi),
       request.rows.size());
   search.repeat = [request, verification = std::move(verification)] { return repeatCompanions(request, verification); };
   return search;

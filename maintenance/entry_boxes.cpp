@@ -10,7 +10,6 @@
 namespace trv5 {
 namespace {
 
-constexpr int kRegionalWheels = kWheels - 1;
 constexpr int kHighest = 90;
 
 bool isDigit(char c) {

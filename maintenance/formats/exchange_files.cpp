@@ -8,8 +8,6 @@
 namespace trv5 {
 namespace {
 
-constexpr int kRegionalWheels = kWheels - 1;
-
 /// A field of a record: what it holds, and how that is written.
 struct Field {
   enum class What { Day, Month, Year, RegionalNumbers, NationalNumbers, ProgMese, ProgAnno, Index, Text } what;

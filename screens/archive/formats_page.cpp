@@ -6,7 +6,7 @@
 namespace trv5 {
 namespace {
 
-QLabel* note(const char* text) {
+QLabel* remark(const char* text) {
   QLabel* const label = Kit::text(QString::fromUtf8(text), Type::Small);
   label->setWordWrap(true);
   return label;
@@ -25,7 +25,7 @@ QWidget* ruotafastPanel(Kit& kit) {
   auto* const panel = new Panel(QStringLiteral("Ruotafast"));
   panel->body()->addLayout(row({kit.button("Command7", {.icon = "save"}), Piece::gap()}));
   panel->body()->addWidget(
-      note("Attenzione, questo file deve essere obbligatoriamente salvato nella cartella C:/Brnt3/ ....."));
+      remark("Attenzione, questo file deve essere obbligatoriamente salvato nella cartella C:/Brnt3/ ....."));
   return panel;
 }
 
@@ -43,8 +43,8 @@ QWidget* addressPanel(Kit& kit) {
   panel->body()->addLayout(
       row({kit.button("Command16", {.icon = "clipboard"}), kit.button("Command15"), Piece::gap()}));
   panel->body()->addWidget(
-      note("Per modificare l'indirizzo internet predefinito, copiare l'indirizzo desiderato ed incollarlo in questa "
-           "casella dopodichè usare il pulsante RENDE PREDEFINITO"));
+      remark("Per modificare l'indirizzo internet predefinito, copiare l'indirizzo desiderato ed incollarlo in questa "
+             "casella dopodichè usare il pulsante RENDE PREDEFINITO"));
   return panel;
 }
 
@@ -68,7 +68,7 @@ QWidget* archiveFormatsPage(Archivio& form) {
   Kit kit(form);
   QLayout* const files = column({datiPanel(kit), ruotafastPanel(kit), nationalPanel(kit), Piece::gap()});
   QLayout* const settings = column({addressPanel(kit), settingsPanel(kit), Piece::gap()});
-  QLabel* const warning = note(
+  QLabel* const warning = remark(
       "Attenzione: questi due formati non prevedono i dati della ruota nazionale. Vengono salvate le estrazioni "
       "delle 10 ruote classiche.");
   QWidget* const page = holding(column(

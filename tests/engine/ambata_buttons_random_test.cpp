@@ -17,7 +17,7 @@ namespace trv5 {
 namespace {
 
 // A button once more as its rules tell it, in another form than the engine's.
-struct Rules {
+struct ButtonRules {
   const char* button;
   Shape shape;
   int wheels;              // of a set; 0: the wheels of play
@@ -25,24 +25,24 @@ struct Rules {
   int settings;
 };
 
-void PrintTo(const Rules& value, std::ostream* out) {
+void PrintTo(const ButtonRules& value, std::ostream* out) {
   *out << value.button;
 }
 
-const std::vector<Rules> kRules = {{"Command20", Shape::OneNumber, 0, "", "1", "1", 600},
-                                   {"Command11", Shape::OneNumber, 1, "", "1", "1", 150},
-                                   {"Command13", Shape::OneNumber, 2, "", "1", "1", 100},
-                                   {"Command15", Shape::OneNumber, 3, "", "1", "1", 100},
-                                   {"Command23", Shape::TwoOneWheel, 0, "?", "1", "2", 150},
-                                   {"Command17", Shape::TwoOneWheel, 1, "?", "1", "2", 100},
-                                   {"Command16", Shape::TwoOneWheel, 2, "?", "1", "2", 80},
-                                   {"Command7", Shape::TwoOneWheel, 3, "?", "1", "2", 40},
-                                   {"Command18", Shape::ThreeOneWheel, 0, "N1+N2+N3", "1", "3", 100},
-                                   {"Command10", Shape::TwoTwoWheels, 0, "?", "2", "1", 100},
-                                   {"Command1", Shape::TwoTwoWheels, 1, "?", "2", "1", 60},
-                                   {"Command2", Shape::TwoTwoWheels, 2, "?", "2", "2", 40}};
+const std::vector<ButtonRules> kRules = {{"Command20", Shape::OneNumber, 0, "", "1", "1", 600},
+                                         {"Command11", Shape::OneNumber, 1, "", "1", "1", 150},
+                                         {"Command13", Shape::OneNumber, 2, "", "1", "1", 100},
+                                         {"Command15", Shape::OneNumber, 3, "", "1", "1", 100},
+                                         {"Command23", Shape::TwoOneWheel, 0, "?", "1", "2", 150},
+                                         {"Command17", Shape::TwoOneWheel, 1, "?", "1", "2", 100},
+                                         {"Command16", Shape::TwoOneWheel, 2, "?", "1", "2", 80},
+                                         {"Command7", Shape::TwoOneWheel, 3, "?", "1", "2", 40},
+                                         {"Command18", Shape::ThreeOneWheel, 0, "N1+N2+N3", "1", "3", 100},
+                                         {"Command10", Shape::TwoTwoWheels, 0, "?", "2", "1", 100},
+                                         {"Command1", Shape::TwoTwoWheels, 1, "?", "2", "1", 60},
+                                         {"Command2", Shape::TwoTwoWheels, 2, "?", "2", "2", 40}};
 
-PlainFormula formulaOf(const Workbench& w, const Rules& rules) {
+PlainFormula formulaOf(const Workbench& w, const ButtonRules& rules) {
   PlainFormula formula{
       rules.shape, PlainFormula::kConstant, {}, std::max(0, w.Combo1R_2N.index() - 1), ascendingTriples()};
   const ParametriFormula& p = w.Formula;
@@ -60,7 +60,7 @@ PlainFormula formulaOf(const Workbench& w, const Rules& rules) {
   return formula;
 }
 
-AmbataRequest requestOf(const Workbench& w, const Rules& rules, const WorkbenchState& state) {
+AmbataRequest requestOf(const Workbench& w, const ButtonRules& rules, const WorkbenchState& state) {
   AmbataRequest request;
   request.archive = &w.archive;
   for (int row = 1; row < w.FgEv.rows(); ++row)
@@ -114,7 +114,7 @@ void paintRow(Grid& table, int row) {
 }
 
 // What the workbench must look like after the button.
-WorkbenchSnapshot plainRun(const WorkbenchWorld& world, const Rules& rules) {
+WorkbenchSnapshot plainRun(const WorkbenchWorld& world, const ButtonRules& rules) {
   const Workbench& w = world.w;
   WorkbenchSnapshot after(w);
   if (w.FgEv.rows() < 2) return after;
@@ -174,10 +174,10 @@ void randomInputs(WorkbenchWorld& world, std::mt19937& rng, bool fewCases) {
   w.Formula.Elem3 = below(rng, 92);
 }
 
-class AmbataButtons : public testing::TestWithParam<Rules> {};
+class AmbataButtons : public testing::TestWithParam<ButtonRules> {};
 
 TEST_P(AmbataButtons, LeaveWhatTheStepsLeaveOnRandomMethods) {
-  const Rules& rules = GetParam();
+  const ButtonRules& rules = GetParam();
   const int perWorld = 20;
   for (unsigned seed = 1; seed <= static_cast<unsigned>(randomRuns(rules.settings / perWorld)); ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));

@@ -29,11 +29,11 @@ const CompanionButton& button(const std::string& name) {
 
 // What the rules say about each button, once more and in another form: the hit grid, its columns of numbers, the
 // column of covered cases, how many numbers a wheel must hold.
-struct Rules {
+struct ReadRules {
   GridControl Workbench::*hits;
   int firstNumber, lastNumber, covered;
 };
-Rules rulesOf(int sorte) {
+ReadRules rulesOf(int sorte) {
   if (sorte == 2) return {&Workbench::FgZ1, 6, 6, 18};
   if (sorte == 3) return {&Workbench::FgZ2, 6, 7, 19};
   return {&Workbench::FgZ100, 6, 10, 0};
@@ -55,7 +55,7 @@ PlainFormula plainFormula(const Workbench& w, Shape shape) {
 // What the buttons read: the hits that count and the inputs.
 CompanionRequest plainRequest(const Workbench& w, const CompanionButton& b) {
   const int sorte = traitsOf(b.table).code;
-  const Rules rules = rulesOf(sorte);
+  const ReadRules rules = rulesOf(sorte);
   const Grid& hits = w.*rules.hits;
   CompanionRequest request;
   request.archive = &w.archive;

@@ -10,7 +10,7 @@
 namespace trv5 {
 namespace {
 
-struct Table {
+struct FormulaTable {
   int sorte;
   int tab;
   const char *all, *remove, *clear;
@@ -20,17 +20,17 @@ struct Table {
   int capacity;
 };
 
-void PrintTo(const Table& value, std::ostream* out) {
+void PrintTo(const FormulaTable& value, std::ostream* out) {
   *out << value.all;
 }
 
-const std::vector<Table> kTables = {
+const std::vector<FormulaTable> kTables = {
     {1, 0, "Command29", "Command32", "Command19", &Workbench::Fg11, &Workbench::FgZ1, 17, 5},
     {2, 1, "Command34", "Rimuove_Fg22", "Nuova_Fg22", &Workbench::Fg22, &Workbench::FgZ2, 18, 5},
     {3, 2, "Command48", "Rimuove_Fg33", "Nuova_Fg33", &Workbench::Fg33, &Workbench::FgZ3, 19, 5},
     {6, 4, "Command51", "Rimuove_Fg00", "Nuova_Fg00", &Workbench::Fg00, &Workbench::FgZ0, 22, 10}};
 
-class EachTable : public testing::TestWithParam<Table> {
+class EachTable : public testing::TestWithParam<FormulaTable> {
  protected:
   EachTable() { world.setCases({1, 4}, 3); }
 
@@ -138,14 +138,14 @@ TEST_P(EachTable, LosesNoRowWithoutASelection) {
 }
 
 TEST_P(EachTable, IsEmptiedWithItsHitsAndMarksAndNothingElse) {
-  for (const Table& table : kTables) {
+  for (const FormulaTable& table : kTables) {
     SevenWorld::addNumber(w.*table.formulas, 7);
     (w.*table.hits).appendRow();
     w.FgEv.setText(1, table.column, "3");
     w.FgEv.setBack(1, table.column, Verde);
   }
   world.press(GetParam().clear);
-  for (const Table& table : kTables) {
+  for (const FormulaTable& table : kTables) {
     const bool own = table.sorte == GetParam().sorte;
     EXPECT_EQ((w.*table.formulas).hasData(), !own) << table.sorte;
     EXPECT_EQ((w.*table.hits).hasData(), !own) << table.sorte;
@@ -158,7 +158,7 @@ TEST_P(EachTable, TakesARowByADoubleClickOnTheRankingWhileItsTabIsInFront) {
   SevenWorld::addNumber(w.FgF, 7);
   w.SSTab3.set(GetParam().tab);
   w.FgF.doubleClickCell(1, 11);
-  for (const Table& table : kTables)
+  for (const FormulaTable& table : kTables)
     EXPECT_EQ((w.*table.formulas).dataRows(), table.sorte == GetParam().sorte ? 1 : 0) << table.sorte;
 }
 

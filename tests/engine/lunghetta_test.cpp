@@ -11,7 +11,7 @@
 namespace trv5 {
 namespace {
 
-constexpr const char* kTooMany = "Attenzione si possono elaborare al massimo 10 numeri.";
+constexpr const char* kTooManyToElaborate = "Attenzione si possono elaborare al massimo 10 numeri.";
 constexpr const char* kTooManyToVerify =
     "Attenzione si possono elaborare al massimo 10 numeri. Rimuovere le formule in eccesso";
 
@@ -120,7 +120,7 @@ TEST_F(LunghettaOfOneCase, TakesTenFormulasAndNotEleven) {
   WorkbenchWorld::addFormula(w.Fg00, {.elements = {{0, 2}}});
   w.FgZ100.cutToHeading();
   world.press("Cmd_Elabora100");
-  EXPECT_EQ(world.shell.texts(), std::vector<std::string>{kTooMany});
+  EXPECT_EQ(world.shell.texts(), std::vector<std::string>{kTooManyToElaborate});
   EXPECT_EQ(world.shell.lastBox().title, "Avviso");
   EXPECT_FALSE(w.FgZ100.hasData());
   world.press("Command51");

@@ -8,7 +8,7 @@
 namespace trv5 {
 namespace {
 
-constexpr const char* kTooMany =
+constexpr const char* kTooManyInPlay =
     "Attenzione si possono elaborare al massimo 10 numeri. Rimuovere le formule in eccesso";
 
 // 7, 8 and 9 stand together on Roma in draw 2, 7 and 8 on Bari in draw 4, 7 alone on Bari in draw 2.
@@ -98,7 +98,7 @@ TEST(VerificaLunghetta, RefusesElevenFormulasWithOneMessageAndDoesNothingElse) {
     const WorkbenchSnapshot before(w);
     world.press(button);
     EXPECT_EQ(difference(before, w), "") << button;
-    EXPECT_EQ(world.shell.texts(), std::vector<std::string>{kTooMany}) << button;
+    EXPECT_EQ(world.shell.texts(), std::vector<std::string>{kTooManyInPlay}) << button;
     EXPECT_EQ(world.shell.lastBox().title, "Avviso");
   }
 }

@@ -50,6 +50,12 @@ struct ArchivioWorld : ProgramWorld {
   Archivio* m_archivio = nullptr;
 };
 
+inline std::vector<DrawRow> threeDraws() {
+  return {drawOf("07/01/1939", {{"BA", {58, 22, 47, 49, 69}}}),
+          drawOf("14/01/1939", {{"BA", {1, 2, 3, 4, 5}}, {"NZ", {6, 7, 8, 9, 10}}}),
+          drawOf("04/02/1939", {{"BA", {90, 80, 70, 60, 50}}})};
+}
+
 /// The texts of all boxes, joined by blanks, "." for an empty one.
 inline std::string boxesOf(const Archivio& a) {
   std::string all;

@@ -9,12 +9,6 @@ namespace {
 
 using Kind = ShownBox::Kind;
 
-std::vector<DrawRow> threeDraws() {
-  return {drawOf("07/01/1939", {{"BA", {58, 22, 47, 49, 69}}}),
-          drawOf("14/01/1939", {{"BA", {1, 2, 3, 4, 5}}, {"NZ", {6, 7, 8, 9, 10}}}),
-          drawOf("04/02/1939", {{"BA", {90, 80, 70, 60, 50}}})};
-}
-
 const std::string kFailure = "Attenzione probabilmente hai inserito una data già memorizzata...";
 
 struct DrawEntry : ::testing::Test {

@@ -8,13 +8,13 @@
 namespace trv5 {
 namespace {
 
-std::vector<DrawRow> threeDraws() {
+std::vector<DrawRow> drawsOfThreeWheels() {
   return {drawOf("07/01/1939", {{"BA", {58, 22, 47, 49, 69}}}), drawOf("14/01/1939", {{"RO", {1, 2, 3, 4, 5}}}),
           drawOf("04/02/1939", {{"BA", {7, 80, 9, 10, 11}}, {"NZ", {90, 89, 88, 87, 86}}})};
 }
 
 struct MiniListWorld {
-  explicit MiniListWorld(const std::vector<DrawRow>& rows = threeDraws()) : archive(archiveOfRows(rows)) {
+  explicit MiniListWorld(const std::vector<DrawRow>& rows = drawsOfThreeWheels()) : archive(archiveOfRows(rows)) {
     list.load();
   }
 
@@ -189,7 +189,7 @@ TEST(MiniList, TheLastDrawButtonMovesTheLeftPanelAlone) {
 
 TEST(MiniList, FollowsAnArchiveThatHasGrown) {
   MiniListWorld world;
-  std::vector<DrawRow> rows = threeDraws();
+  std::vector<DrawRow> rows = drawsOfThreeWheels();
   rows.push_back(drawOf("11/02/1939", {{"BA", {1, 2, 3, 4, 5}}}));
   world.archive = archiveOfRows(rows);
   world.list.Command56.press();
@@ -277,7 +277,7 @@ TEST(MiniListDateSearch, DoesNotFindADateBeforeTheModelArchive) {
 
 TEST(MiniList, ShowsACaseOfAnArchiveThatHasGrownSinceItWasOpened) {
   MiniListWorld world;
-  std::vector<DrawRow> rows = threeDraws();
+  std::vector<DrawRow> rows = drawsOfThreeWheels();
   rows.push_back(drawOf("11/02/1939", {{"RO", {21, 22, 23, 24, 25}}}));
   world.archive = archiveOfRows(rows);
   MarkedDraw first{4, 7, {}}, second{4, 7, {}};

@@ -7,7 +7,7 @@
 namespace trv5 {
 namespace {
 
-void compare(Shape shape, unsigned firstSeed) {
+void compareAmbate(Shape shape, unsigned firstSeed) {
   compareOnSeeds(firstSeed, 100, 20, [shape](std::mt19937& rng, const Archive& archive, int setting) {
     const PlainFormula formula = randomFormula(rng, shape);
     AmbataRequest request = randomAmbataRequest(rng, archive);
@@ -20,19 +20,19 @@ void compare(Shape shape, unsigned firstSeed) {
 }
 
 TEST(AmbataSearch, OfOneNumberAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, 1000);
+  compareAmbate(Shape::OneNumber, 1000);
 }
 
 TEST(AmbataSearch, OfTwoNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::TwoOneWheel, 2000);
+  compareAmbate(Shape::TwoOneWheel, 2000);
 }
 
 TEST(AmbataSearch, OfThreeNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::ThreeOneWheel, 3000);
+  compareAmbate(Shape::ThreeOneWheel, 3000);
 }
 
 TEST(AmbataSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, 4000);
+  compareAmbate(Shape::TwoTwoWheels, 4000);
 }
 
 AmbataRequest onBari(const Archive& archive) {

@@ -25,34 +25,34 @@ auto passes(Shape shape, const std::vector<WheelSet>& wheelSets) {
   };
 }
 
-void compare(Shape shape, const std::vector<WheelSet>& wheelSets, unsigned firstSeed) {
+void compareBestWheels(Shape shape, const std::vector<WheelSet>& wheelSets, unsigned firstSeed) {
   compareOnSeeds(firstSeed, 25, 40, passes(shape, wheelSets));
 }
 
 TEST(BestWheelSearch, OfOneNumberOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, plainWheelSets(1), 21000);
+  compareBestWheels(Shape::OneNumber, plainWheelSets(1), 21000);
 }
 
 TEST(BestWheelSearch, OfOneNumberOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, plainWheelSets(2), 22000);
+  compareBestWheels(Shape::OneNumber, plainWheelSets(2), 22000);
 }
 
 TEST(BestWheelSearch, OfOneNumberOnThreeWheelsAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, plainWheelSets(3), 23000);
+  compareBestWheels(Shape::OneNumber, plainWheelSets(3), 23000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::TwoOneWheel, plainWheelSets(1), 24000);
-  compare(Shape::TwoOneWheel, plainWheelSets(2), 25000);
-  compare(Shape::TwoOneWheel, plainWheelSets(3), 26000);
+  compareBestWheels(Shape::TwoOneWheel, plainWheelSets(1), 24000);
+  compareBestWheels(Shape::TwoOneWheel, plainWheelSets(2), 25000);
+  compareBestWheels(Shape::TwoOneWheel, plainWheelSets(3), 26000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, plainWheelSets(1), 27000);
+  compareBestWheels(Shape::TwoTwoWheels, plainWheelSets(1), 27000);
 }
 
 TEST(BestWheelSearch, OfTwoNumbersOnTwoWheelsOnPairsOfWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, plainWheelSets(2), 28000);
+  compareBestWheels(Shape::TwoTwoWheels, plainWheelSets(2), 28000);
 }
 
 TEST(BestWheelSearch, TakesAnyNumberOfAnySetsOfWheels) {

@@ -5,7 +5,7 @@
 namespace trv5 {
 namespace {
 
-void compare(Shape shape, unsigned firstSeed) {
+void compareCompanions(Shape shape, unsigned firstSeed) {
   // Ambo, terno and lunghetta take turns at random.
   compareOnSeeds(firstSeed, 100, 30, [shape](std::mt19937& rng, const Archive& archive, int) {
     const PlainFormula formula = randomFormula(rng, shape);
@@ -16,19 +16,19 @@ void compare(Shape shape, unsigned firstSeed) {
 }
 
 TEST(CompanionSearch, OfOneNumberAgreesWithThePlainCount) {
-  compare(Shape::OneNumber, 11000);
+  compareCompanions(Shape::OneNumber, 11000);
 }
 
 TEST(CompanionSearch, OfTwoNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::TwoOneWheel, 12000);
+  compareCompanions(Shape::TwoOneWheel, 12000);
 }
 
 TEST(CompanionSearch, OfThreeNumbersOnOneWheelAgreesWithThePlainCount) {
-  compare(Shape::ThreeOneWheel, 13000);
+  compareCompanions(Shape::ThreeOneWheel, 13000);
 }
 
 TEST(CompanionSearch, OfTwoNumbersOnTwoWheelsAgreesWithThePlainCount) {
-  compare(Shape::TwoTwoWheels, 14000);
+  compareCompanions(Shape::TwoTwoWheels, 14000);
 }
 
 constexpr WheelSet kBariAndCagliari = 3U;
