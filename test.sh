@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Everything that has to hold before a change lands, cheapest first: the sources as text, the layers without Qt and then
-# the screens under sanitizers, the suite of the release with programs, package and the fingerprint of the searches.
+# Everything that has to hold before a change lands, cheapest first: the sources as text, that the layers without Qt are
+# set up where there is none, the suite under sanitizers, then that of the release with programs, package and the
+# fingerprint of the searches.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . scripts/setup.sh
@@ -25,27 +26,32 @@ run_tests() {
     --parallel "$(nproc)" "$@"
 }
 
-# run_programs PRESET: its test programs, each in a few processes that share its tests. The start of the sanitizers would
-# take a third of the time with a process for each test. Twice as many at a time as there are cores: some wait for locks.
+# run_programs PRESET: its test programs without Qt, each in a few processes that share its tests. The start of the
+# sanitizers would take a third of the time with a process for each test. Twice as many at a time as there are cores: some
+# wait for locks.
 run_programs() {
-  local program shard shards=4 programs=("build/$1"/bin/test_*)
-  phase "Tests of $1"
+  local program shard shards=4 programs=()
+  phase "Tests of $1 without Qt"
+  for program in "build/$1"/bin/test_*; do
+    case "${program##*/}" in
+      test_screens | test_console | test_help) ;;
+      *) programs+=("$program") ;;
+    esac
+  done
   [ -x "${programs[0]}" ] || stop "build/$1 holds no tests."
   for program in "${programs[@]}"; do
     for ((shard = 0; shard < shards; ++shard)); do printf '%s\0' "$program" "$shard"; done
   done | GTEST_TOTAL_SHARDS=$shards GTEST_BRIEF=1 xargs -0 -n 2 -P $((2 * $(nproc))) scripts/run_shard.sh
 }
 
-# Under sanitizers a tenth of the random settings; the release goes through all of them.
-phase "Build without Qt, with sanitizers"
+phase "Without Qt"
 configure core -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
-cmake --build --preset core
-TRV5_RANDOM_SHARE=10 run_programs core
 
-# The layers without Qt have had their tests.
-phase "Build of the screens, with sanitizers"
+# Under sanitizers a tenth of the random settings; the release goes through all of them.
+phase "Build with sanitizers"
 configure sanitize
-cmake --build --preset sanitize --target gui_tests
+cmake --build --preset sanitize
+TRV5_RANDOM_SHARE=10 run_programs sanitize
 TRV5_RANDOM_SHARE=10 run_tests sanitize --label-regex gui
 
 phase "Build of the release"
