@@ -70,6 +70,7 @@ const std::map<std::string, Console::Command, std::less<>>& Console::commands() 
                                                                     {"clock", &Console::clock},
                                                                     {"focus", &Console::focus},
                                                                     {"screens", &Console::screens},
+                                                                    {"controls", &Console::controls},
                                                                     {"shot", &Console::shot},
                                                                     {"quit", &Console::quit}};
   return known;

@@ -49,6 +49,7 @@ class Console {
   std::string clock(const Arguments& line);
   std::string focus(const Arguments& line);
   std::string screens(const Arguments& line);
+  std::string controls(const Arguments& line);
   std::string shot(const Arguments& line);
   std::string quit(const Arguments& line);
 

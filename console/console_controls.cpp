@@ -6,6 +6,7 @@
 #include "console/arguments.h"
 #include "console/console.h"
 #include "console/control_actions.h"
+#include "console/control_list.h"
 #include "screens/kit/grid_view.h"
 #include "screens/kit/theme.h"
 
@@ -47,6 +48,14 @@ std::string Console::get(const Arguments& line) {
     out["value"] = page->source().toString().toStdString();
   }
   return answerFields(out);
+}
+
+std::string Console::controls(const Arguments& line) {
+  const Form* const form = screenOf(line).form;
+  nlohmann::json all = nlohmann::json::array();
+  if (form != nullptr)
+    for (const Control* const control : form->controls()) all.push_back(outlineOf(*control));
+  return answerFields({{"controls", std::move(all)}});
 }
 
 std::string Console::cell(const Arguments& line) {

@@ -170,6 +170,38 @@ TEST_F(ConsoleTest, DumpsTextsColoursBarsAndWhatIsHidden) {
   refuses("dump", "INIZIO", "Command1");
 }
 
+TEST_F(ConsoleTest, ListsTheControlsWithTheirKindsAndHowFarTheyGo) {
+  const json controls = does("controls", "INIZIO")["controls"];
+  const auto outline = [&controls](const char* name) {
+    for (const json& control : controls)
+      if (control["name"] == name) return control;
+    return json();
+  };
+  const auto common = [](const char* name, const char* kind, bool acts) {
+    return json{{"name", name}, {"kind", kind}, {"enabled", true}, {"acts", acts}, {"double", false}};
+  };
+  const auto with = [](json base, const json& more) {
+    base.update(more);
+    return base;
+  };
+  EXPECT_EQ(outline("Command1"), common("Command1", "button", true));
+  EXPECT_EQ(outline("Label5"), common("Label5", "label", false));
+  EXPECT_EQ(outline("Check1"), common("Check1", "check", true));
+  EXPECT_EQ(outline("ComboNC"), with(common("ComboNC", "combo", true), {{"items", 3}, {"editable", true}}));
+  EXPECT_EQ(outline("hs1"), with(common("hs1", "scroll", true), {{"minimum", 1}, {"maximum", 7370}}));
+  EXPECT_EQ(outline("SSTab1"), with(common("SSTab1", "tabs", true), {{"tabs", {1, 0}}}));
+  EXPECT_EQ(outline("TxtNumeri"), with(common("TxtNumeri", "text", false), {{"length", 8}, {"double", true}}));
+  EXPECT_EQ(outline("FgF"), with(common("FgF", "grid", true),
+                                 {{"rows", 3}, {"columns", 3}, {"headings", 1}, {"choices", {{"1", {"", "1", "2"}}}}}));
+  EXPECT_EQ(outline("FgZ100")["acts"], false) << "without a widget too";
+  EXPECT_EQ(outline("List1")["kind"], "lines");
+  EXPECT_EQ(outline("MonthView1")["kind"], "calendar");
+  made->Command1.setEnabled(false);
+  EXPECT_EQ(does("controls", "INIZIO")["controls"][0]["enabled"], false);
+  refuses("controls", "Sommativi1");
+  refuses("controls");
+}
+
 TEST(GridDump, IsJsonForAnyText) {
   Grid grid(3, 1);
   grid.setText(0, 0, "\"\\\t\x01");
