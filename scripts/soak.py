@@ -9,7 +9,8 @@ same process, on a folder made afresh out of FILE or of the demonstration archiv
 report, an unexpected error, an operation that takes the processor for longer than SECONDS, memory that grows, a leak.
 The same seed and number of operations give the same digest of the state; --trace writes what was told and what stood
 there at the end of each session, for a diff of two runs. Time is counted by operations: one during which the program
-was stopped counts for ten seconds at most.
+was stopped counts for ten seconds at most. Sanitizers make everything some ten to twenty times as slow: SECONDS are 60
+for them. A SIGTERM to this script ends the run early, with its verdict.
 """
 import argparse
 import collections
@@ -18,6 +19,7 @@ import json
 import pathlib
 import random
 import re
+import signal
 import statistics
 import sys
 import tempfile
@@ -52,10 +54,15 @@ class Run:
         self.digests = hashlib.sha256()
         self.memory, self.slowest = [], []
         self.kinds, self.refused, self.texts = collections.Counter(), collections.Counter(), collections.Counter()
-        self.boxed = 0
+        self.boxed, self.stopped = 0, False
         self.trace = open(options.trace, "w", encoding="utf-8") if options.trace else None
 
+    def stop(self, *_):
+        self.stopped = True
+
     def over(self):
+        if self.stopped:
+            return True
         if self.options.operations:
             return self.operation >= self.options.operations
         return self.spent >= self.options.minutes * 60
@@ -198,6 +205,7 @@ def main():
     options = arguments()
     with tempfile.TemporaryDirectory(prefix="soak-") as folder:
         run = Run(options, pathlib.Path(folder))
+        signal.signal(signal.SIGTERM, run.stop)
         try:
             run.go()
             good = report(run)
