@@ -357,13 +357,13 @@ void Database::checkIntegrity() const {
   if (!check.step() || check.text(0) != "ok") throw errorOf("letto", m_path, Reason::Damaged);
 }
 
-void Database::fail(std::string_view attempt) const {
+void Database::fail(std::string_view attempt, SQLite::Database* where) const {
   try {
     throw;
   } catch (const SQLite::Exception& error) {
     // Behind a failed read or write of the disk stands a reason of the system's.
     const int extended = error.getExtendedErrorCode(), code = extended & 0xFF;
-    const int system = m_database == nullptr ? 0 : sqlite3_system_errno(m_database->getHandle());
+    const int system = where == nullptr ? 0 : sqlite3_system_errno(where->getHandle());
     if (code == SQLITE_NOMEM) throw errorOf(attempt, m_path, Reason::Other, reasonOf(ENOMEM), error.what());
     const bool systemFailed = (code == SQLITE_IOERR || code == SQLITE_CANTOPEN) && system != 0;
     throw errorOf(attempt, m_path, reasonOfCode(extended, m_readOnly), systemFailed ? reasonOf(system) : std::string(),

@@ -126,6 +126,13 @@ class Database {
   /// don't.
   void checkIntegrity() const;
 
+  /// Writes all that it holds into an empty file, as it stands at one moment whatever other programs write. Nothing is
+  /// synced, and a file of which this fails is no database: it has to be another's temporary one. Throws DatabaseError.
+  void copyInto(const std::filesystem::path& empty) const;
+  /// Takes the contents of another file of the same kind in place of its own, in one transaction: when this throws a
+  /// DatabaseError the file is as it was.
+  void takeFrom(const Database& other);
+
   /// One transaction, writing from its first moment on, so that two programs never wait for each other's half. Rolled
   /// back at its end unless committed. Throws when the file is read-only or another program is writing.
   class Transaction {
@@ -149,8 +156,9 @@ class Database {
   static int isLate(void* database);
   void checkPassword(std::string_view password) const;
   void configure();
-  /// Throws the DatabaseError of the library's error being handled.
-  [[noreturn]] void fail(std::string_view attempt) const;
+  /// Throws the DatabaseError of the library's error being handled, which `where` knows more about.
+  [[noreturn]] void fail(std::string_view attempt) const { fail(attempt, m_database.get()); }
+  [[noreturn]] void fail(std::string_view attempt, SQLite::Database* where) const;
 
   std::filesystem::path m_path;
   std::unique_ptr<SQLite::Database> m_database;
