@@ -215,6 +215,15 @@ void takePlace(const fs::path& file, const fs::path& target) {
   syncFolder(target.parent_path());
 }
 
+void makeFolder(const fs::path& folder) {
+  if (mkdir(folder.c_str(), 0777) == 0) return syncFolder(folder.parent_path());
+  const int error = errno;
+  std::error_code unknown;
+  if (error == EEXIST && fs::is_directory(folder, unknown)) return;
+  throw UserError(fmt::format("La cartella \"{}\" non può essere creata: {}.", folder.string(), reasonOf(error)),
+                  "Avviso", std::strerror(error));
+}
+
 std::string readFile(const fs::path& file, std::size_t maxBytes) {
   const auto refuse = [&](const std::string& reason) {
     throw UserError(fmt::format("Il file \"{}\" non può essere letto: {}.", file.string(), reason));

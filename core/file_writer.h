@@ -45,6 +45,9 @@ void writeFile(const std::filesystem::path& target, std::string_view bytes, Exis
 /// holds has to be synced. On the disk once it returns. Throws UserError and names the target.
 void takePlace(const std::filesystem::path& file, const std::filesystem::path& target);
 
+/// Makes a folder unless it is there; it is on the disk once this returns. Throws UserError and names it.
+void makeFolder(const std::filesystem::path& folder);
+
 /// The most that is read of a file where nothing else is told, in bytes.
 inline constexpr std::size_t kLargestRead = std::size_t{256} << 20;
 

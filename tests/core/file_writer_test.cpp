@@ -143,6 +143,22 @@ TEST(FileWriter, AFinishedFileTakesThePlaceOfAnother) {
   EXPECT_EQ(readFile(folder / "a.txt"), "nuovo");
 }
 
+TEST(FileWriter, MakesAFolderOnceAndSaysWhyItCannot) {
+  TempFolder folder;
+  makeFolder(folder / "copie");
+  makeFolder(folder / "copie");
+  EXPECT_TRUE(std::filesystem::is_directory(folder / "copie"));
+  writeFile(folder / "a.txt", "x");
+  for (const char* const name : {"a.txt", "manca/copie"}) {
+    try {
+      makeFolder(folder / name);
+      ADD_FAILURE() << name;
+    } catch (const UserError& error) {
+      EXPECT_THAT(error.what(), HasSubstr("La cartella \"" + (folder / name).string() + "\" non può essere creata: "));
+    }
+  }
+}
+
 TEST(FileWriter, TellsAFullDiskInItalian) {
   EXPECT_EQ(reasonOf(ENOSPC), "il disco è pieno");
   EXPECT_EQ(reasonOf(EROFS), "il disco è in sola lettura");
