@@ -52,6 +52,15 @@ std::int64_t sumOfDraw(const DrawRow& row) {
   return static_cast<std::int64_t>(sum);
 }
 
+std::optional<std::int64_t> keptSumOf(const Database& archive, std::string_view date) {
+  const std::optional<Day> day = dayOfText(date);
+  if (!day || !archive.hasTable(kTable)) return std::nullopt;
+  archive.requireTable(kTable, {"DataEstrazione", "Somma"});
+  Statement query = archive.prepare("SELECT Somma FROM VerificaEstrazioni WHERE DataEstrazione = ?");
+  if (!query.bind(1, isoText(*day)).step()) return std::nullopt;
+  return query.number(0);
+}
+
 std::vector<DrawDifference> differencesFromSums(const Database& archive, const std::vector<DrawRow>& rows) {
   using Kind = DrawDifference::Kind;
   std::vector<DrawDifference> differences;

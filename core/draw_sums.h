@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/archive.h"
@@ -12,6 +14,10 @@ class Database;
 
 /// The sum of a draw's date and wheels (FNV-1a over the texts and their lengths), as it stands in `VerificaEstrazioni`.
 std::int64_t sumOfDraw(const DrawRow& row);
+
+/// The sum with which the draw of that date, "GG/MM/AAAA", was written last; nothing where none is kept. Throws
+/// DatabaseError.
+std::optional<std::int64_t> keptSumOf(const Database& archive, std::string_view date);
 
 /// A draw that isn't as it was written: damage, or another program.
 struct DrawDifference {

@@ -138,6 +138,18 @@ TEST(DrawSums, AnAbandonedWriteLeavesDrawsAndSumsAsTheyWere) {
   EXPECT_THAT(differencesFromSums(archive, readDraws(archive)), IsEmpty());
 }
 
+TEST(DrawSums, TheSumOfOneDrawIsTheOneItWasWrittenWith) {
+  TempFolder folder;
+  createArchive(folder / "a.mdb", someRows(), Existing::Refuse);
+  { const OtherProgram other(folder / "a.mdb", kForeignEdits); }
+  const Database archive(folder / "a.mdb", FileKind::Archive);
+  for (const DrawRow& row : someRows()) EXPECT_EQ(keptSumOf(archive, row.date), sumOfDraw(row)) << row.date;
+  EXPECT_EQ(keptSumOf(archive, "10/01/1939"), std::nullopt);
+  EXPECT_EQ(keptSumOf(archive, "no date"), std::nullopt);
+  { const OtherProgram other(folder / "a.mdb", "DROP TABLE VerificaEstrazioni"); }
+  EXPECT_EQ(keptSumOf(archive, "07/01/1939"), std::nullopt);
+}
+
 TEST(DrawSums, WheelsThatAreNotFiveDifferentNumbersAreCounted) {
   EXPECT_EQ(irregularWheels(someRows()).count, 0);
   std::vector<DrawRow> rows = someRows();
