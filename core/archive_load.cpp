@@ -28,12 +28,6 @@ ReadArchive readChosenArchive(const Program& program, const std::function<void(i
   return read;
 }
 
-void takeDifferences(Program& program, std::vector<DrawDifference> differences) {
-  if (differences != program.drawDifferences) program.differencesSeen = false;
-  program.drawDifferences = std::move(differences);
-  if (program.container != nullptr) program.container->MostraVerifica();
-}
-
 }  // namespace
 
 std::vector<DrawRow> readDraws(const Database& archive, const std::function<void(int row, int rows)>& onRow) {
@@ -69,6 +63,12 @@ void fillFgDB(const std::vector<DrawRow>& rows, Grid& FgDB) {
       FgDB.setText(at, wheel + 2, row.wheels[static_cast<std::size_t>(wheel)]);
     ++at;
   }
+}
+
+void takeDifferences(Program& program, std::vector<DrawDifference> differences) {
+  if (differences != program.drawDifferences) program.differencesSeen = false;
+  program.drawDifferences = std::move(differences);
+  if (program.container != nullptr) program.container->MostraVerifica();
 }
 
 std::vector<DrawRow> loadArchive(Program& program, const std::function<void(int row, int rows)>& onRow) {

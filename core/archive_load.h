@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/archive.h"
+#include "core/draw_sums.h"
 
 namespace trv5 {
 
@@ -34,6 +35,9 @@ std::vector<DrawRow> CaricaArchivioExNovo(Program& program);
 /// "7370 estrazioni", and what the user has to know of them: draws that aren't as they were written, wheels that aren't
 /// five different numbers.
 std::string describeArchive(const Program& program, const std::vector<DrawRow>& rows);
+
+/// Keeps what a look at the archive has found in `Program::drawDifferences`; the shell shows how many.
+void takeDifferences(Program& program, std::vector<DrawDifference> differences);
 
 /// The lighter reload of the archive screen: numbers, dates, `NumEstrazioni` and the screen's `FgDB`; progressives,
 /// `UltimaEstrazione` and the model archive stay as they were.

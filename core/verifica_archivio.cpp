@@ -22,6 +22,16 @@ std::string_view nameOf(DrawDifference::Kind kind) {
 
 }  // namespace
 
+void AccettaEstrazioni(Program& program) {
+  Database& archive = program.archiveToWrite();
+  if (!acceptDraws(archive, program.drawDifferences)) {
+    takeDifferences(program, differencesFromSums(archive, readDraws(archive)));
+    throw UserError("L'archivio è cambiato da quando è stato caricato: guardare di nuovo l'elenco.");
+  }
+  takeDifferences(program, {});
+  program.shell.status("Le estrazioni sono state accettate come stanno nell'archivio");
+}
+
 VerificaArchivio::VerificaArchivio(Program& program)
     : Form(program.shell, "VerificaArchivio", "Estrazioni da verificare", Container::kHelpContext),
       Fg_Differenze(*this, "Fg_Differenze", "Data|Che cosa|Ba|Ca|Fi|Ge|Mi|Na|Pa|Ro|To|Ve|Nz"),
@@ -51,16 +61,13 @@ void VerificaArchivio::load() {
 }
 
 void VerificaArchivio::Accetta() {
-  Database& archive = m_program.archiveToWrite();
-  if (!acceptDraws(archive, m_program.drawDifferences)) {
-    m_program.drawDifferences = differencesFromSums(archive, readDraws(archive));
+  try {
+    AccettaEstrazioni(m_program);
+  } catch (...) {
     load();
-    throw UserError("L'archivio è cambiato da quando è stato caricato: guardare di nuovo l'elenco.");
+    throw;
   }
-  m_program.drawDifferences.clear();
   load();
-  if (m_program.container != nullptr) m_program.container->MostraVerifica();
-  shell().status("Le estrazioni sono state accettate come stanno nell'archivio");
   shell().close(name());
 }
 

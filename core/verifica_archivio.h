@@ -5,6 +5,10 @@
 
 namespace trv5 {
 
+/// Takes the archive as it stands, with the differences in `Program::drawDifferences`, which the user has seen. Throws
+/// UserError when it has others by now: they then stand there.
+void AccettaEstrazioni(Program& program);
+
 /// The list of the draws that aren't as they were written, as they stand now. The user accepts them, or puts them right
 /// elsewhere.
 class VerificaArchivio : public Form {
