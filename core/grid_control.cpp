@@ -19,12 +19,18 @@ void GridControl::setHeld(const ControlValue& value) {
   Grid::restore(own.grid);
 }
 
+void GridControl::moveTo(int row, int column) {
+  if (row == current() && column == currentColumn()) return;
+  setCurrent(row, column);
+  if (m_move) form().perform(m_move, this);
+}
+
 // Choosing a row is no act by itself.
 void GridControl::clickCell(int row, int column) {
   std::optional<UserAct> act;
   if (m_click) act.emplace(form(), this);
   const std::uint64_t cells = cellsRevision();
-  if (row >= headingRows()) setCurrent(row, column);
+  if (row >= headingRows()) moveTo(row, column);
   if (!m_click) return;
   form().perform([&] { m_click(row, column); }, this);
   act->setMoves(cellsRevision() == cells);
@@ -39,7 +45,7 @@ void GridControl::clickHeading() {
 void GridControl::doubleClickCell(int row, int column) {
   std::optional<UserAct> act;
   if (m_cellDoubleClick) act.emplace(form(), this);
-  if (row >= headingRows()) setCurrent(row, column);
+  if (row >= headingRows()) moveTo(row, column);
   if (m_cellDoubleClick) form().perform([&] { m_cellDoubleClick(row, column); }, this);
 }
 

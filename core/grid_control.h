@@ -27,12 +27,16 @@ class GridControl : public Control, public Grid {
   void onCellDoubleClick(std::function<void(int row, int column)> operation) {
     m_cellDoubleClick = std::move(operation);
   }
+  /// Run when the user comes to another cell, by mouse or key.
+  void onMove(std::function<void()> operation) { m_move = std::move(operation); }
   /// Shown in the middle of the empty grid, given the grid's state.
   void setEmptyText(std::string text);
   const std::string& emptyText() const { return m_emptyText; }
   /// True when a click is a toggle, so that Space and dragging do the same.
   bool hasCellClick() const { return static_cast<bool>(m_click); }
 
+  /// The user's way to a cell, which becomes the current one.
+  void moveTo(int row, int column);
   /// The user's click: makes the cell current (a heading row never), then runs the operation.
   void clickCell(int row, int column);
   void clickHeading();
@@ -57,7 +61,7 @@ class GridControl : public Control, public Grid {
 
  private:
   std::function<void(int, int)> m_click, m_cellDoubleClick;
-  std::function<void()> m_headingClick;
+  std::function<void()> m_headingClick, m_move;
   std::string m_emptyText;
 };
 

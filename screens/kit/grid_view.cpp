@@ -194,7 +194,7 @@ void GridView::scrollContentsBy(int dx, int dy) {
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  if (!m_following && current.isValid()) m_grid.setCurrent(m_model->gridRow(current.row()), current.column());
+  if (!m_following && current.isValid()) m_grid.moveTo(m_model->gridRow(current.row()), current.column());
   viewport()->update();
 }
 

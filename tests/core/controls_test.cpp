@@ -336,6 +336,20 @@ TEST_F(Controls, AClickOnAGridMakesTheCellCurrentExceptInTheHeading) {
   EXPECT_EQ(grid.currentColumn(), 0);
 }
 
+TEST_F(Controls, AGridTellsEachMoveToAnotherCellBeforeTheClick) {
+  GridControl grid(form, "FgEv", "A|B");
+  grid.setRows(3);
+  std::vector<std::string> heard;
+  grid.onMove([&] { heard.push_back("row " + std::to_string(grid.current())); });
+  grid.onCellClick([&](int, int) { heard.emplace_back("click"); });
+  grid.moveTo(1, 0);
+  grid.moveTo(1, 0);
+  grid.clickCell(1, 0);
+  grid.clickCell(2, 0);
+  grid.clickCell(0, 0);
+  EXPECT_EQ(heard, (std::vector<std::string>{"row 1", "click", "row 2", "click", "click"}));
+}
+
 TEST_F(Controls, OnlyACellWithChoicesTakesOneOfThem) {
   GridControl grid(form, "FgF", "A|B");
   grid.appendRow();

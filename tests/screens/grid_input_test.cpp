@@ -142,8 +142,9 @@ TEST_F(GridInputTest, AKeyThatEntersAPadStandsOnItsFirstCell) {
 TEST_F(GridInputTest, ArrowKeysMoveTheCurrentRowWithoutAClick) {
   GridControl grid(world.form, "FgF", "a|b");
   fill(grid, 5);
-  int clicks = 0;
+  int clicks = 0, moves = 0;
   grid.onCellClick([&](int, int) { ++clicks; });
+  grid.onMove([&] { ++moves; });
   GridView view(grid);
   shown(view, 300, 300);
   grid.setCurrent(2, 1);
@@ -153,6 +154,7 @@ TEST_F(GridInputTest, ArrowKeysMoveTheCurrentRowWithoutAClick) {
   QTest::keyClick(&view, Qt::Key_Left);
   EXPECT_EQ(grid.currentColumn(), 0);
   EXPECT_EQ(clicks, 0);
+  EXPECT_EQ(moves, 2);
   QTest::keyClick(&view, Qt::Key_Space);
   EXPECT_EQ(clicks, 1);
 }
