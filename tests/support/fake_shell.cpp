@@ -30,6 +30,7 @@ void FakeShell::message(const Box& box) {
 
 bool FakeShell::confirm(const Box& box) {
   shown.push_back({.kind = ShownBox::Kind::Confirm, .title = box.title, .text = box.text, .icon = box.icon});
+  reasons.push_back(box.reason);
   const std::optional<Answer> answer = take();
   return answer && answer->kind == Answer::Kind::Yes;
 }

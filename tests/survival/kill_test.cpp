@@ -30,7 +30,7 @@ LeftInside leftIn(const fs::path& folder) {
   LeftInside left;
   for (const auto& [name, bytes] : imageOf(folder)) {
     left.journal = left.journal || (name.ends_with("-journal") && !bytes.empty());
-    left.temporary = left.temporary || name.front() == '.';
+    left.temporary = left.temporary || fs::path(name).filename().string().front() == '.';
   }
   return left;
 }
@@ -129,8 +129,10 @@ class Kills : public testing::TestWithParam<WritingOperation> {
   }
 
   bool writes() const {
-    for (const fs::directory_entry& entry : fs::directory_iterator(world.folder.path())) {
-      const std::string name = entry.path().filename().string();
+    std::error_code gone;  // what is looked at may vanish
+    for (fs::recursive_directory_iterator entry(world.folder.path(), gone), end; !gone && entry != end;
+         entry.increment(gone)) {
+      const std::string name = entry->path().filename().string();
       if (name.ends_with("-journal") || name.front() == '.') return true;
     }
     return false;

@@ -1,6 +1,7 @@
 #include "survival/power_cut.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace trv5 {
@@ -19,16 +20,19 @@ class Cut {
         m_rubbish(rng() % 2) {
     for (const auto& [name, file] : log.files) m_bytes[file] = log.before.at(name);
     m_names = log.files;
+    for (const auto& [name, file] : log.files) m_folders.insert(folderOf(name));
+    m_folders.insert("");
     for (std::size_t i = 0; i < std::min(at, log.events.size()); ++i) {
       if (log.events[i].kind == Kind::Sync) m_synced[log.events[i].file] = i;
-      if (log.events[i].kind == Kind::SyncFolder) m_folderSynced = i;
+      if (log.events[i].kind == Kind::SyncFolder) m_folderSynced[log.events[i].name] = i;
     }
   }
 
   DiskImage image() {
     for (std::size_t i = 0; i < m_log.events.size() && i <= m_at; ++i) apply(m_log.events[i], i);
     DiskImage image;
-    for (const auto& [name, file] : m_names) image[name] = m_bytes[file];
+    for (const auto& [name, file] : m_names)
+      if (m_folders.count(folderOf(name)) > 0) image[name] = m_bytes[file];
     return image;
   }
 
@@ -40,8 +44,14 @@ class Cut {
     return synced != m_synced.end() && i < synced->second;
   }
 
+  // True when the names of its folder have been synced since.
+  bool isNamed(const DiskEvent& event, std::size_t i) const {
+    const auto synced = m_folderSynced.find(folderOf(event.name));
+    return synced != m_folderSynced.end() && i < synced->second;
+  }
+
   void apply(const DiskEvent& event, std::size_t i) {
-    const bool named = i < m_folderSynced;
+    const bool named = isNamed(event, i);
     switch (event.kind) {
       case Kind::Write:
         write(m_bytes[event.file], event, isSynced(event, i));
@@ -59,6 +69,9 @@ class Cut {
         if (!keeps(named)) break;
         m_names.erase(event.formerName);
         m_names[event.name] = event.file;
+        break;
+      case Kind::MakeFolder:
+        if (keeps(named)) m_folders.insert(event.name);
         break;
       case Kind::Sync:
       case Kind::SyncFolder:
@@ -92,8 +105,9 @@ class Cut {
   bool m_rubbish;
   std::map<int, std::string> m_bytes;
   std::map<std::string, int> m_names;
-  std::map<int, std::size_t> m_synced;  // file: its last sync
-  std::size_t m_folderSynced = 0;
+  std::set<std::string> m_folders;
+  std::map<int, std::size_t> m_synced;                // file: its last sync
+  std::map<std::string, std::size_t> m_folderSynced;  // folder: its last sync
 };
 
 }  // namespace

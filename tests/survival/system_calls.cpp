@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <stdio.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -169,6 +170,21 @@ int unlink(const char* path) noexcept {
   if (trv5::fails(disk, DiskCall::Delete)) return -1;
   const auto done = static_cast<int>(syscall(SYS_unlink, path));
   if (disk != nullptr && done == 0) disk->deleted(path);
+  return done;
+}
+
+// The library itself unlinks by a way of its own.
+int remove(const char* path) noexcept {
+  if (trv5::watcherOf(path) != nullptr) return unlink(path);
+  if (syscall(SYS_unlink, path) == 0) return 0;
+  return errno == EISDIR ? static_cast<int>(syscall(SYS_rmdir, path)) : -1;
+}
+
+int mkdir(const char* path, mode_t mode) noexcept {
+  trv5::WatchedDisk* const disk = trv5::watcherOf(path);
+  if (trv5::fails(disk, DiskCall::MakeFolder)) return -1;
+  const auto done = static_cast<int>(syscall(SYS_mkdir, path, mode));
+  if (disk != nullptr && done == 0) disk->madeFolder(path);
   return done;
 }
 

@@ -25,17 +25,23 @@ ino_t inodeOf(const fs::path& file) {
 
 DiskImage imageOf(const fs::path& folder) {
   DiskImage image;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
-    if (entry.is_regular_file()) image[entry.path().filename().string()] = readBytes(entry.path());
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+    if (entry.is_regular_file()) image[fs::relative(entry.path(), folder).string()] = readBytes(entry.path());
   return image;
 }
 
 void layImage(const fs::path& folder, const DiskImage& image) {
   std::vector<fs::path> there;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
-    if (entry.is_regular_file()) there.push_back(entry.path());
-  for (const fs::path& file : there) fs::remove(file);
-  for (const auto& [name, bytes] : image) writeBytes(folder / name, bytes);
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) there.push_back(entry.path());
+  for (const fs::path& path : there) fs::remove_all(path);
+  for (const auto& [name, bytes] : image) {
+    fs::create_directories((folder / name).parent_path());
+    writeBytes(folder / name, bytes);
+  }
+}
+
+std::string folderOf(const std::string& name) {
+  return fs::path(name).parent_path().string();
 }
 
 WatchedDisk::WatchedDisk(fs::path folder) : m_folder(std::move(folder)) {
@@ -45,6 +51,9 @@ WatchedDisk::WatchedDisk(fs::path folder) : m_folder(std::move(folder)) {
     m_inodes[inodeOf(m_folder / name)] = m_files++;
   }
   m_log.files = m_names;
+  m_folders[inodeOf(m_folder)] = "";
+  for (const fs::directory_entry& entry : fs::directory_iterator(m_folder))
+    if (entry.is_directory()) m_folders[inodeOf(entry.path())] = entry.path().filename().string();
   if (std::exchange(watchedDisk(), this) != nullptr) throw std::logic_error("two watched disks");
 }
 
@@ -69,6 +78,7 @@ int WatchedDisk::errorFor(DiskCall call) {
     case DiskCall::Open:
       return full ? EMFILE : EACCES;
     case DiskCall::Rename:
+    case DiskCall::MakeFolder:
       return full ? ENOSPC : EACCES;
     default:
       return EIO;
@@ -78,16 +88,16 @@ int WatchedDisk::errorFor(DiskCall call) {
 bool WatchedDisk::watches(int descriptor) const {
   struct stat status {};
   if (fstat(descriptor, &status) != 0) return false;
-  return S_ISDIR(status.st_mode) ? status.st_ino == inodeOf(m_folder) : m_inodes.count(status.st_ino) > 0;
+  return S_ISDIR(status.st_mode) ? m_folders.count(status.st_ino) > 0 : m_inodes.count(status.st_ino) > 0;
 }
 
 bool WatchedDisk::watches(const char* path) const {
   const fs::path file(path);
-  return file.parent_path() == m_folder || file == m_folder;
+  return file == m_folder || file.parent_path() == m_folder || file.parent_path().parent_path() == m_folder;
 }
 
-std::string WatchedDisk::nameOf(const char* path) {
-  return fs::path(path).filename().string();
+std::string WatchedDisk::nameOf(const char* path) const {
+  return fs::path(path).lexically_relative(m_folder).string();
 }
 
 int WatchedDisk::fileOf(int descriptor) const {
@@ -111,7 +121,7 @@ void WatchedDisk::synced(int descriptor) {
   struct stat status {};
   fstat(descriptor, &status);
   if (S_ISDIR(status.st_mode))
-    m_log.events.push_back({.kind = Kind::SyncFolder});
+    m_log.events.push_back({.kind = Kind::SyncFolder, .name = m_folders.at(status.st_ino)});
   else
     m_log.events.push_back({.kind = Kind::Sync, .file = fileOf(descriptor)});
 }
@@ -140,6 +150,11 @@ void WatchedDisk::linked(const char* from, const char* to) {
   const int file = m_names.at(nameOf(from));
   m_names[nameOf(to)] = file;
   m_log.events.push_back({.kind = Kind::Create, .file = file, .name = nameOf(to)});
+}
+
+void WatchedDisk::madeFolder(const char* path) {
+  m_folders[inodeOf(path)] = nameOf(path);
+  m_log.events.push_back({.kind = Kind::MakeFolder, .name = nameOf(path)});
 }
 
 }  // namespace trv5

@@ -12,7 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isScratch(const std::string& name) {
+bool isScratch(const std::string& path) {
+  const std::string name = fs::path(path).filename().string();
   const auto ends = [&](std::string_view end) { return name.ends_with(end); };
   return name.front() == '.' || ends("-journal") || ends(".nuova");
 }
@@ -82,7 +83,7 @@ std::vector<std::string> WritingWorld::told() {
   std::vector<std::string> all = std::exchange(m_errors, {});
   for (; m_toldBoxes < shell.shown.size(); ++m_toldBoxes) {
     const ShownBox& box = shell.shown[m_toldBoxes];
-    if (box.kind != ShownBox::Kind::Message) continue;
+    if (box.kind != ShownBox::Kind::Message && box.kind != ShownBox::Kind::Confirm) continue;
     all.push_back(box.text);
     const std::string& reason = shell.reasons.at(m_toldReasons++);
     if (box.text.find("non può essere") == std::string::npos) all.push_back(reason);
@@ -101,8 +102,8 @@ void WritingWorld::end() {
 Contents contentsOf(const fs::path& folder) {
   Contents contents;
   std::vector<std::string> names;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    const std::string name = entry.path().filename().string();
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+    const std::string name = fs::relative(entry.path(), folder).string();
     if (entry.is_regular_file() && !isScratch(name)) names.push_back(name);
   }
   for (const std::string& name : names) contents[name] = contentOf(folder / name);
@@ -134,18 +135,25 @@ std::string AllowedStates::fault(const fs::path& folder, bool ended) const {
     const auto found = state.contents.find(name);
     return found == state.contents.end() ? std::string() : found->second;
   };
+  bool changed = false;
+  std::set<std::string> missing;  // copies that the operation makes before anything else
   for (const std::string& name : names) {
     std::string now;
     try {
       if (fs::exists(folder / name)) now = content(folder / name);
     } catch (const std::exception& error) {
-      return error.what();
+      return name + ": " + error.what();
     }
-    if (now == in(m_after, name)) continue;
+    const std::string before = in(m_before, name), after = in(m_after, name);
+    const bool copy = folderOf(name) == "copie";
+    if (copy && before.empty() && now.empty()) missing.insert(name);
+    if (!copy && now != before) changed = true;
+    if (now == after) continue;
+    if (copy && after.empty() && now == before) continue;  // one that makes room may do so later
     if (ended) return name + " isn't as the operation left it";
-    if (now != in(m_before, name) && m_between.count(now) == 0) return name + " is neither as before nor as after";
+    if (now != before && m_between.count(now) == 0) return name + " is neither as before nor as after";
   }
-  return "";
+  return changed && !missing.empty() ? *missing.begin() + " was to be there before anything changed" : "";
 }
 
 int asked(const char* variable, int usual) {

@@ -68,8 +68,9 @@ struct NameOfOperation {
   }
 };
 
-/// The files of a folder by what they hold; scratch files and what a killed writer left beside a database don't count
-/// (the databases are opened, which takes it back). Throws DatabaseError for a database that isn't whole.
+/// The files of a folder, and of the folders in it, by what they hold; scratch files and what a killed writer left
+/// beside a database don't count (the databases are opened, which takes it back). Throws DatabaseError for a database
+/// that isn't whole.
 Contents contentsOf(const std::filesystem::path& folder);
 
 /// The states in which an operation may leave each file of a folder.
@@ -83,7 +84,8 @@ class AllowedStates {
   bool differ() const { return m_before.contents != m_after.contents; }
 
   /// What is wrong with the folder, "" when nothing is: each file has to be as before or as after, or after the end of
-  /// the operation as after.
+  /// the operation as after. A copy of the archive that the operation makes has to be there once another file has
+  /// changed; one that has to make room may stay.
   std::string fault(const std::filesystem::path& folder, bool ended) const;
 
  private:
