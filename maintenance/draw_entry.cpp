@@ -10,6 +10,7 @@
 #include "core/text.h"
 #include "maintenance/archive_state.h"
 #include "maintenance/archivio.h"
+#include "maintenance/copy_first.h"
 
 namespace trv5 {
 namespace {
@@ -65,6 +66,7 @@ void SalvaEstrazione(Archivio& a) {
     return;
   requireArchiveOfTheStart(a);
   try {
+    if (!CopiaPrima(a, BackupReason::Aggiornamento)) return;
     {
       DrawWriter writer(a.program.archiveToWrite());
       writer.add(rowOfBoxes(a, date), registrationNow(a.shell()));
@@ -95,6 +97,7 @@ void ModificaEstrazione(Archivio& a) {
     return;
   requireArchiveOfTheStart(a);
   try {
+    if (!CopiaPrima(a, BackupReason::Correzione)) return;
     if (correctDraw(a, rowOfBoxes(a, date))) {
       a.shell().message({.text = "Modifica effettuata. Ricarico archivio."});
       RicaricaArchivio(a);
@@ -117,6 +120,7 @@ void EliminaEstrazione(Archivio& a) {
                           .icon = Icon::Question}))
     return;
   requireArchiveOfTheStart(a);
+  if (!CopiaPrima(a, BackupReason::Cancellazione)) return;
   if (!deleteDraw(a, date)) return;
   a.shell().message(
       {.text = "Estrazione cancellata. L'archivio verrà ricaricato.", .title = "Sistemazione Archivio estrazioni"});

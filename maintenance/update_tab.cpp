@@ -2,11 +2,13 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "core/file_writer.h"
 #include "maintenance/archive_state.h"
 #include "maintenance/archivio.h"
+#include "maintenance/copy_first.h"
 #include "maintenance/download.h"
 #include "maintenance/draw_entry.h"
 #include "maintenance/formats/history_file.h"
@@ -38,7 +40,7 @@ class UpdateTab {
   void enableButtons();
 
  private:
-  void load(const std::string& text);
+  void load(const std::string& text, BackupReason origin);
   void check(const std::vector<DrawRow>& rows);
   void trapped(const std::function<void()>& operation);
   void tellFailure(const std::string& reason);
@@ -46,8 +48,9 @@ class UpdateTab {
 
   Archivio& a;
   std::shared_ptr<Download> m_download;
-  std::string m_phase;                  // of the first stage, for its message
-  BlankCell m_blank = BlankCell::Text;  // what an empty cell of `FgImporta` says
+  std::string m_phase;                                  // of the first stage, for its message
+  BlankCell m_blank = BlankCell::Text;                  // what an empty cell of `FgImporta` says
+  BackupReason m_origin = BackupReason::Aggiornamento;  // what it is to write what stands there
 };
 
 void UpdateTab::enableButtons() {
@@ -87,7 +90,8 @@ void UpdateTab::ControllaAggiornamenti() {
           trapped([&] {
             keepLocalCopy(bytes);
             m_phase = "Elenco nuove estrazioni";
-            load(decodedText(readFile(a.program.folder / kLocalCopy, kMaxUpdateBytes + 2)));
+            load(decodedText(readFile(a.program.folder / kLocalCopy, kMaxUpdateBytes + 2)),
+                 BackupReason::Aggiornamento);
           });
         },
         [this](const UserError& error) { tellFailure(error.what()); });
@@ -105,13 +109,14 @@ void UpdateTab::AggiornaDaFile() {
     if (!hasUpdateForm(text))
       return a.shell().message({.text = "Attenzione, sembra che il file non sia del formato corretto"});
     m_phase = "Elenco nuove estrazioni";
-    load(text);
+    load(text, BackupReason::Importazione);
   });
 }
 
-void UpdateTab::load(const std::string& text) {
+void UpdateTab::load(const std::string& text, BackupReason origin) {
   m_blank = BlankCell::Text;
   const std::vector<DrawRow> rows = readUpdateText(text);
+  m_origin = origin;
   fillUpdateGrid(rows, a.FgImporta);
   m_phase = "Controllo estrazioni mancanti";
   check(rows);
@@ -137,9 +142,13 @@ void UpdateTab::EseguiAggiornamento() {
     a.SSTab1.set(Archivio::kGestione);
     return;
   }
+  const std::vector<UpdateOrder> orders = updateOrders(a.FgImporta, a.Check3.checked());
+  const bool writes =
+      std::any_of(orders.begin(), orders.end(), [](const UpdateOrder& order) { return order.add || order.correct; });
+  if (writes && !CopiaPrima(a, m_origin)) return;
   const UpdateReport report =
-      writeUpdate(a.program.archiveToWrite(), updateRows(a.FgImporta), updateOrders(a.FgImporta, a.Check3.checked()),
-                  registrationNow(a.shell()), m_blank == BlankCell::Text ? EmptyWheel::Text : EmptyWheel::Null);
+      writeUpdate(a.program.archiveToWrite(), updateRows(a.FgImporta), orders, registrationNow(a.shell()),
+                  m_blank == BlankCell::Text ? EmptyWheel::Text : EmptyWheel::Null);
   for (const std::string& line : report.lines) a.List4.add(line);
   if (report.added > 0) {
     a.shell().message({.text = "Dati salvati correttamente.", .title = "Aggiornamento archivio"});
@@ -193,6 +202,7 @@ void UpdateTab::ConfrontaConStorico() {
     marks.push_back(found.marks[i]);
   }
   m_blank = BlankCell::NotDrawn;
+  m_origin = BackupReason::Importazione;
   fillUpdateGrid(unlike, a.FgImporta);
   markUpdateGrid(marks, a.FgImporta);
   a.List4.clear();

@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "maintenance/archivio_world.h"
+#include "maintenance/backups.h"
 #include "maintenance/update_samples.h"
 #include "maintenance/update_server.h"
 #include "maintenance/update_tab.h"
@@ -61,6 +62,17 @@ TEST_F(UpdateFetchTest, TheFileIsFetchedFromItsPathKeptAndChecked) {
   EXPECT_THAT(world.shell.shown, IsEmpty());
   EXPECT_EQ(a().FgImporta.text(1, 1), "03/01/2001");
   EXPECT_THAT(a().List4.lines(), ElementsAre("Manca estrazione del: 03/01/2001", "Nessuna anomalia rilevata"));
+}
+
+TEST_F(UpdateFetchTest, WhatItWritesIsCopiedFirstAsAnUpdate) {
+  const LoopbackServer server([&](const Answer& answer, const std::string&) { answer.http("200 OK", text); });
+  openWith(server.address()).Command18.press();
+  a().Command28.press();
+  EXPECT_EQ(world.storedDates().size(), 2U);
+  const std::vector<Backup> copies = backupsOf(world.program->loadedArchive, world.shell.clock);
+  ASSERT_EQ(copies.size(), 1U);
+  EXPECT_EQ(copies[0].reason, "aggiornamento");
+  EXPECT_EQ(readDraws(Database(copies[0].file, FileKind::Archive)).size(), 1U);
 }
 
 TEST_F(UpdateFetchTest, WhatComesIsNotTestedForItsForm) {
