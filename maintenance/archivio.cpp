@@ -1,5 +1,6 @@
 #include "maintenance/archivio.h"
 
+#include "maintenance/copies_tab.h"
 #include "maintenance/entry_tab.h"
 #include "maintenance/formats_tab.h"
 #include "maintenance/update_tab.h"
@@ -11,6 +12,7 @@ Archivio::Archivio(Program& run) : Form(run.shell, "archivio", "Gestione archivi
   FgImporta.setEmptyText("Premi CONTROLLO AGGIORNAMENTI o AGGIORNA DA FILE");
   connectUpdateTab(*this);
   connectFormatsTab(*this);
+  connectCopiesTab(*this);
 }
 
 void Archivio::load() {

@@ -13,7 +13,7 @@ class Archivio : public Form {
  public:
   static constexpr int kHelpContext = 230;
   /// The tabs of `SSTab1`.
-  enum Tab { kGestione = 0, kElenco = 1, kAggiornamenti = 2, kSalvataggi = 3 };
+  enum Tab { kGestione = 0, kElenco = 1, kAggiornamenti = 2, kSalvataggi = 3, kCopie = 4 };
 
   explicit Archivio(Program& program);
 
@@ -24,7 +24,8 @@ class Archivio : public Form {
               {{kGestione, "Gestione estrazioni"},
                {kElenco, "Elenco estrazioni"},
                {kAggiornamenti, "Aggiornamenti"},
-               {kSalvataggi, "Salvataggi"}}};
+               {kSalvataggi, "Salvataggi"},
+               {kCopie, "Copie"}}};
   // The help pages of the screen: entry, correction, update, formats.
   Button CmDHelp{*this, "CmDHelp", "Help in linea", "Help in linea: gestione dell'archivio"},
       Command22{*this, "Command22", "Help in linea", "Help in linea: correzione di un'estrazione"},
@@ -89,6 +90,23 @@ class Archivio : public Form {
   Text Txt_CartellaRuotafast{*this, "Txt_CartellaRuotafast"}, Txt_ServerWeb{*this, "Txt_ServerWeb"},
       Txt_ServerFtp{*this, "Txt_ServerFtp"};
   Button Cmd_Impostazioni{*this, "Cmd_Impostazioni", "Memorizza le impostazioni"};
+
+  // Copie.
+  GridControl Fg_Copie{*this, "Fg_Copie", "Copia del|Motivo|Estrazioni|Fino al|Rispetto a oggi"};
+  Button Cmd_EsportaStato{*this, "Cmd_EsportaStato", "Esporta lo stato",
+                          "Scrive in un testo versione, controllo e copie, da mandare a chi aiuta"},
+      Cmd_Ripristina{*this, "Cmd_Ripristina", "Ripristina la copia",
+                     "Rimette la copia scelta al posto dell'archivio, dopo averne fatta una di com'è oggi"},
+      Cmd_VerificaCopia{*this, "Cmd_VerificaCopia", "Verifica la copia",
+                        "Dice se la copia scelta si lascia leggere per intero"};
+  Label Lbl_CartellaCopie{*this, "Lbl_CartellaCopie"};
+  GridControl Fg_Controllo{*this, "Fg_Controllo", "Controllo|N° estr|Data|Che cosa"};
+  Button Cmd_VerificaArchivio{*this, "Cmd_VerificaArchivio", "Verifica archivio",
+                              "Guarda tutte le estrazioni del file e ne elenca quello che non torna"},
+      Cmd_Accetta{*this, "Cmd_Accetta", "Accetta"},
+      Cmd_RipristinaEstrazione{*this, "Cmd_RipristinaEstrazione", "Ripristina l'estrazione"},
+      Copia_Fg_Controllo{*this, "Copia_Fg_Controllo", "Copia tabella"};
+  Label Lbl_EsitoControllo{*this, "Lbl_EsitoControllo"};
 
   /// Run once when the screen is made.
   void load();

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "screens/archive/copies_page.h"
 #include "screens/archive/entry_page.h"
 #include "screens/archive/formats_page.h"
 #include "screens/archive/list_page.h"
@@ -19,8 +20,8 @@ ArchivioScreen::ArchivioScreen(Archivio& form) : Screen(form) {
   const auto later = [&form](QWidget* (*make)(Archivio&)) {
     return new LazyPage([&form, make] { return make(form); });
   };
-  frame->body()->addWidget(kit.tabs(
-      "SSTab1", {archiveEntryPage(form), later(archiveListPage), later(archiveUpdatePage), later(archiveFormatsPage)}));
+  frame->body()->addWidget(kit.tabs("SSTab1", {archiveEntryPage(form), later(archiveListPage), later(archiveUpdatePage),
+                                               later(archiveFormatsPage), later(archiveCopiesPage)}));
   layout->addWidget(frame);
   withTheme(*this, [layout] {
     const int unit = Theme::current().unit();

@@ -48,6 +48,11 @@ class CopiesWorld : public testing::Test {
   }
   /// Behind the program's back, as another program would.
   void writeOutside(const std::string& sql) { Database(archive(), FileKind::Archive).execute(sql); }
+  /// Comes to the tab from another one.
+  void enter() {
+    a->SSTab1.set(Archivio::kGestione);
+    a->SSTab1.set(Archivio::kCopie);
+  }
 
   void save(const std::string& date) {
     a->MonthView1.set(date);

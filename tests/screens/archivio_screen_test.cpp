@@ -173,7 +173,7 @@ TEST_F(ArchivioScreenTest, TheBoxesOnScreenFollowTheirModelThroughRandomKeys) {
 
 TEST_F(ArchivioScreenTest, MnemonicsAreUnique) {
   std::map<QString, int> letters;
-  for (const int tab : {0, 1, 2, 3}) form().SSTab1.set(tab);
+  for (const int tab : {0, 1, 2, 3, 4}) form().SSTab1.set(tab);
   settle();
   for (const QWidget* const widget : shell.widget("archivio")->findChildren<QWidget*>()) {
     QString text;
@@ -189,7 +189,7 @@ TEST_F(ArchivioScreenTest, MnemonicsAreUnique) {
 TEST_F(ArchivioScreenTest, NoCaptionIsCutAtAnySize) {
   for (const QSize size : {QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
     resize(size);
-    for (const int tab : {0, 1, 2, 3}) {
+    for (const int tab : {0, 1, 2, 3, 4}) {
       form().SSTab1.set(tab);
       settle();
       for (const QAbstractButton* const button : shell.widget("archivio")->findChildren<QAbstractButton*>()) {
@@ -213,7 +213,7 @@ TEST_F(ArchivioScreenTest, FitsIntoALowWindowAlsoWhenThatWasHighBefore) {
 }
 
 TEST_F(ArchivioScreenTest, IsNoWiderThanItsWindowOnAnyTab) {
-  for (const int tab : {0, 1, 2, 3}) {
+  for (const int tab : {0, 1, 2, 3, 4}) {
     form().SSTab1.set(tab);
     for (const QSize size : {QSize(1366, 768), QSize(1280, 720), QSize(1920, 1080)}) {
       resize(size);
