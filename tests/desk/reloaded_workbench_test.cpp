@@ -125,6 +125,13 @@ struct ReloadedWorkbench : ::testing::Test {
     a->Check3.set(true);
     a->Command28.press();
   }
+  // The newest copy back in the place of the archive.
+  void restore() {
+    a->SSTab1.set(Archivio::kCopie);
+    a->Fg_Copie.clickCell(1, 0);
+    world.shell.answerYes();
+    a->Cmd_Ripristina.press();
+  }
   int middleCase() const { return caseDraw(*w, w->FgEv.rows() / 2); }
   void expectLabels();
   void expectNothingToTakeBack();
@@ -268,6 +275,16 @@ TEST_F(ReloadedWorkbench, OutlivesAnUpdateThatAddsAndCorrects) {
         update({archive().DateEstrazioni(middleCase()), "01/02/1938", "02/02/2030"});
       },
       kReference, kDraws + 2);
+}
+
+TEST_F(ReloadedWorkbench, OutlivesTheRestoreOfACopy) {
+  fill();
+  const auto removeAndRestore = [&] {
+    remove(middleCase());
+    ASSERT_EQ(archive().NumEstrazioni(), kDraws - 1);
+    restore();
+  };
+  expectOutlives(removeAndRestore, kReference, kDraws);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ using testing::PrintToString;
 using Errors = WatchedDisk::Errors;
 
 // Words of libraries and of the system, none of which belongs into a text for the user.
-constexpr const char* kForeign[] = {
+constexpr const char* kForeignWords[] = {
     "no error for a user", "disk I/O",     "unable to", "database is", "SQLITE", "std::",
     "filesystem",          "Input/output", "No space",  "Too many"};
 
@@ -59,7 +59,7 @@ class FailingCalls : public testing::TestWithParam<WritingOperation> {
     ++failures;
     const std::vector<std::string> told = world.told();
     for (const std::string& text : told)
-      for (const char* foreign : kForeign) EXPECT_EQ(text.find(foreign), std::string::npos) << text;
+      for (const char* foreign : kForeignWords) EXPECT_EQ(text.find(foreign), std::string::npos) << text;
     EXPECT_EQ(states.fault(world.folder.path(), false), "") << PrintToString(told);
     const bool done = states.fault(world.folder.path(), true).empty();
     EXPECT_FALSE(!done && told.empty()) << "a failure without a word";

@@ -1,6 +1,9 @@
 // Every operation of the program that writes.
 #include "configs/draft.h"
+#include "core/text.h"
 #include "core/verifica_archivio.h"
+#include "maintenance/backups.h"
+#include "support/left_journal.h"
 #include "survival/writing_world.h"
 
 namespace trv5 {
@@ -91,6 +94,69 @@ std::vector<WritingOperation> drawOperations() {
                  world.archivio().Command21.press();
                },
            .run = [](WritingWorld& world) { world.archivio().Command28.press(); },
+           .database = archiveOf}};
+}
+
+constexpr const char* kForeign = "UPDATE EstrazioniLotto SET Ca = '01-02-03-04-05' WHERE rowid = 7";
+
+// Copies of the archive, a day apart, up to the day before the clock's, each of another state than the next one.
+void makeCopies(WritingWorld& world, int copies) {
+  const std::filesystem::path file = world.folder / "Archivio.mdb";
+  for (int copy = copies; copy > 0; --copy) {
+    DateTime then = world.shell.clock;
+    then.day -= copy;
+    makeBackup(Database(file, FileKind::Archive), BackupReason::Aggiornamento, then);
+    const OtherProgram other(
+        file, "UPDATE EstrazioniLotto SET orareg = '10:00:0" + std::to_string(copy % 10) + "' WHERE rowid = 1");
+  }
+}
+
+// The one of so many days ago, wherever it stands in the list.
+void chooseCopy(WritingWorld& world, int days) {
+  Archivio& a = world.archivio();
+  a.SSTab1.set(Archivio::kCopie);
+  const std::string day = twoDigits(world.shell.clock.day - days);
+  for (int row = 1; row < a.Fg_Copie.rows(); ++row)
+    if (a.Fg_Copie.text(row, 0).substr(0, 2) == day) a.Fg_Copie.clickCell(row, 0);
+  world.shell.answerYes();
+}
+
+// The copies of the archive, and what is taken back from them.
+std::vector<WritingOperation> copyOperations() {
+  return {{.name = "CopiaAlPostoDellaPiuVecchia",
+           .files = [](WritingWorld& world) { makeCopies(world, 12); },
+           .ready =
+               [](WritingWorld& world) {
+                 world.archivio().HScrestrazione.set(20);
+                 type(world.archivio(), 7);
+                 world.shell.answerYes();
+               },
+           .run = [](WritingWorld& world) { world.archivio().Command3.press(); },
+           .database = archiveOf},
+          {.name = "RipristinaCopia",
+           .files =
+               [](WritingWorld& world) {
+                 makeCopies(world, 2);
+                 const OtherProgram other(world.folder / "Archivio.mdb", "DELETE FROM EstrazioniLotto WHERE rowid > 9");
+               },
+           .ready = [](WritingWorld& world) { chooseCopy(world, 2); },
+           .run = [](WritingWorld& world) { world.archivio().Cmd_Ripristina.press(); },
+           .database = archiveOf},
+          {.name = "RipristinaEstrazione",
+           .files =
+               [](WritingWorld& world) {
+                 makeCopies(world, 1);
+                 const OtherProgram other(world.folder / "Archivio.mdb", kForeign);
+               },
+           .ready =
+               [](WritingWorld& world) {
+                 Archivio& a = world.archivio();
+                 a.SSTab1.set(Archivio::kCopie);
+                 a.Cmd_VerificaArchivio.press();
+                 a.Fg_Controllo.moveTo(2, 0);
+                 world.shell.answerYes();
+               },
+           .run = [](WritingWorld& world) { world.archivio().Cmd_RipristinaEstrazione.press(); },
            .database = archiveOf}};
 }
 
@@ -255,7 +321,7 @@ std::vector<WritingOperation> fileOperations() {
 const std::vector<WritingOperation>& writingOperations() {
   static const std::vector<WritingOperation> all = [] {
     std::vector<WritingOperation> operations;
-    for (const auto group : {drawOperations, sumOperations, configurationOperations, exchangeOperations,
+    for (const auto group : {drawOperations, copyOperations, sumOperations, configurationOperations, exchangeOperations,
                              draftOperations, settingOperations, fileOperations})
       for (WritingOperation& operation : group()) operations.push_back(std::move(operation));
     return operations;
