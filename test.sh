@@ -47,12 +47,15 @@ run_programs() {
 phase "Without Qt"
 configure core -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON
 
-# Under sanitizers a tenth of the random settings; the release goes through all of them.
+# Under sanitizers a tenth of the random settings, and ten seconds of changed inputs for each reader; the release goes
+# through all settings.
 phase "Build with sanitizers"
 configure sanitize
 cmake --build --preset sanitize
-TRV5_RANDOM_SHARE=10 run_programs sanitize
-TRV5_RANDOM_SHARE=10 run_tests sanitize --label-regex gui
+export TRV5_RANDOM_SHARE=10 TRV5_FUZZ_SECONDS=10
+run_programs sanitize
+run_tests sanitize --label-regex gui
+unset TRV5_RANDOM_SHARE TRV5_FUZZ_SECONDS
 
 phase "Build of the release"
 configure release

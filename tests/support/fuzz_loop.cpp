@@ -46,10 +46,11 @@ std::string faultOf(const FuzzTarget& target, const std::string& bytes, bool& re
 void feed(const FuzzTarget& target) {
   if (__sanitizer_set_death_callback != nullptr) __sanitizer_set_death_callback(tellInput);
   const int first = askedOr("TRV5_FUZZ_FROM", 0), inputs = askedOr("TRV5_FUZZ_INPUTS", randomRuns(target.inputs));
-  int refusals = 0;
+  const std::clock_t end = std::clock() + askedOr("TRV5_FUZZ_SECONDS", 0) * CLOCKS_PER_SEC;
+  int input = first, refusals = 0;
   bool refused = false;
   currentReader = target.name;
-  for (int input = first; input < first + inputs; ++input) {
+  for (; input < first + inputs || std::clock() < end; ++input) {
     currentInput = input;
     const std::string bytes = target.make(input);
     const std::string fault = faultOf(target, bytes, refused);
@@ -59,7 +60,7 @@ void feed(const FuzzTarget& target) {
     writeBytes(kept, bytes);
     FAIL() << "input " << input << ", kept in " << kept << ": " << fault;
   }
-  std::printf("%d inputs, %d of them refused\n", inputs, refusals);
+  std::printf("%d inputs, %d of them refused\n", input - first, refusals);
 }
 
 void feedKept(const FuzzTarget& target, const std::string& data) {
