@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -13,6 +12,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
+#include <ctime>
 #include <map>
 #include <random>
 #include <set>
@@ -124,10 +124,9 @@ TEST_F(ArchivioScreenTest, AMegabytePastedIntoABoxHoldsNothingUpAndEmptiesIt) {
   box(7).setFocus();
   for (const QString& text : {QString(1 << 20, u'9'), QString(1 << 20, u' '), QString(1 << 20, u'è')}) {
     QApplication::clipboard()->setText(text);
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t begin = std::clock();  // of the processor: the machine may have other work
     key(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_LT(clock.elapsed(), 1000);
+    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC);
     box(8).setFocus();
     EXPECT_LE(box(7).text().size(), 2);
     box(7).setFocus();
