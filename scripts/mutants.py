@@ -24,7 +24,7 @@ SOURCES = ["method/vote_counter.cpp", "method/vote_rings.cpp", "method/vote_ring
            "method/companion_search.cpp", "method/companion_counts.cpp", "method/candidate_check.cpp",
            "method/elaboration.cpp", "method/number_count.cpp", "engine/verification.cpp",
            "engine/candidate_check.cpp", "engine/evaluation.cpp", "core/numbers.h"]
-TESTS = ["test_method", "test_engine"]
+TESTS = ["test_method", "test_cases", "test_engine"]
 LONGEST = 600  # seconds of one test program, on a machine that does other things too
 
 # What stands in the code, and what takes its place.
@@ -101,6 +101,8 @@ def main():
             survivors.append(f"{name}:{number + 1}: {before}  ->  {changed.strip()}")
             print("survived", survivors[-1], flush=True)
         file.write_text(whole, encoding="utf-8")
+        if (dead + len(survivors)) % 20 == 0:
+            print(dead + len(survivors), "so far,", dead, "killed", flush=True)
     (PLACE / "survivors.txt").write_text("".join(line + "\n" for line in survivors), encoding="utf-8")
     share = 100.0 * dead / max(1, dead + len(survivors))
     print(f"{dead + len(survivors)} mutants, {dead} killed ({share:.1f} %), {unbuilt} more didn't build")
