@@ -7,6 +7,7 @@
 #include "desk/equip_workbench.h"
 #include "maintenance/archivio.h"
 #include "maintenance/mini_list.h"
+#include "support/archive_acts.h"
 #include "support/program_world.h"
 #include "support/whole_method.h"
 
@@ -52,23 +53,9 @@ struct OpenWorkbench : ::testing::Test {
     w->Cmd_LaSorte[1].press();
     press("Command29");
   }
-  void remove(int draw) {
-    a->HScrestrazione.set(draw);
-    world.shell.answerYes();
-    a->Command2.press();
-  }
-  void save(const std::string& date) {
-    a->MonthView1.set(date);
-    world.shell.answerYes();
-    a->Command8.press();
-  }
-  void correct(int draw) {
-    a->HScrestrazione.set(draw);
-    world.shell.clipboardText = "1 2 3 4 5";
-    a->Command12.press();
-    world.shell.answerYes();
-    a->Command3.press();
-  }
+  void remove(int draw) { deleteDraw(*a, world.shell, draw); }
+  void save(const std::string& date) { saveDraw(*a, world.shell, date); }
+  void correct(int draw) { correctDraw(*a, world.shell, draw, "1 2 3 4 5"); }
   // Everything that a user might press next.
   void pressAll() {
     for (const char* const button : {"Command44", "Command23", "Command29", "Command39", "Command34", "Command86"})

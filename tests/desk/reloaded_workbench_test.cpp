@@ -14,6 +14,7 @@
 #include "engine/result_forms.h"
 #include "maintenance/archivio.h"
 #include "maintenance/mini_list.h"
+#include "support/archive_acts.h"
 #include "support/program_world.h"
 #include "support/random_runs.h"
 #include "support/workbench_snapshot.h"
@@ -99,23 +100,9 @@ struct ReloadedWorkbench : ::testing::Test {
   }
 
   // The writing operations of the archive's screen.
-  void save(const std::string& date) {
-    a->MonthView1.set(date);
-    world.shell.answerYes();
-    a->Command8.press();
-  }
-  void correct(int draw) {
-    a->HScrestrazione.set(draw);
-    world.shell.clipboardText = "90 89 88 87 86 85 84 83 82 81 80 79 78 77 76";
-    a->Command12.press();
-    world.shell.answerYes();
-    a->Command3.press();
-  }
-  void remove(int draw) {
-    a->HScrestrazione.set(draw);
-    world.shell.answerYes();
-    a->Command2.press();
-  }
+  void save(const std::string& date) { saveDraw(*a, world.shell, date); }
+  void correct(int draw) { correctDraw(*a, world.shell, draw, "90 89 88 87 86 85 84 83 82 81 80 79 78 77 76"); }
+  void remove(int draw) { deleteDraw(*a, world.shell, draw); }
   void update(const std::vector<std::string>& dates) {
     std::string file;
     for (const std::string& date : dates) file += date + " 01-02-03-04-05" + std::string(151, ' ') + "pr\r\n";

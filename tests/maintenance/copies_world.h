@@ -9,6 +9,7 @@
 #include "maintenance/archivio_world.h"
 #include "maintenance/backups.h"
 #include "maintenance/update_samples.h"
+#include "support/archive_acts.h"
 
 namespace trv5 {
 
@@ -54,11 +55,7 @@ class CopiesWorld : public testing::Test {
     a->SSTab1.set(Archivio::kCopie);
   }
 
-  void save(const std::string& date) {
-    a->MonthView1.set(date);
-    world.shell.answerYes();
-    a->Command8.press();
-  }
+  void save(const std::string& date) { saveDraw(*a, world.shell, date); }
   void correct(int draw) {
     a->HScrestrazione.set(draw);
     a->txtin[1].set(a->txtin[1].text() == "90" ? "89" : "90");

@@ -20,6 +20,18 @@ void type(Archivio& a, int first) {
   for (int box = 1; box <= EntryBoxes::kBoxes; ++box) a.txtin[box].set(std::to_string(10 + (first + box) % 80));
 }
 
+std::function<void(WritingWorld&)> readyToCorrect(int draw, int first) {
+  return [=](WritingWorld& world) {
+    world.archivio().HScrestrazione.set(draw);
+    type(world.archivio(), first);
+    world.shell.answerYes();
+  };
+}
+
+void pressCorrection(WritingWorld& world) {
+  world.archivio().Command3.press();
+}
+
 // A method on the workbench, under no name yet.
 void layMethod(WritingWorld& world) {
   Workbench& w = world.w();
@@ -70,15 +82,7 @@ std::vector<WritingOperation> drawOperations() {
                },
            .run = [](WritingWorld& world) { world.archivio().Command8.press(); },
            .database = archiveOf},
-          {.name = "ModificaEstrazione",
-           .ready =
-               [](WritingWorld& world) {
-                 world.archivio().HScrestrazione.set(20);
-                 type(world.archivio(), 7);
-                 world.shell.answerYes();
-               },
-           .run = [](WritingWorld& world) { world.archivio().Command3.press(); },
-           .database = archiveOf},
+          {.name = "ModificaEstrazione", .ready = readyToCorrect(20, 7), .run = pressCorrection, .database = archiveOf},
           {.name = "EliminaEstrazione",
            .ready =
                [](WritingWorld& world) {
@@ -125,13 +129,8 @@ void chooseCopy(WritingWorld& world, int days) {
 std::vector<WritingOperation> copyOperations() {
   return {{.name = "CopiaAlPostoDellaPiuVecchia",
            .files = [](WritingWorld& world) { makeCopies(world, 12); },
-           .ready =
-               [](WritingWorld& world) {
-                 world.archivio().HScrestrazione.set(20);
-                 type(world.archivio(), 7);
-                 world.shell.answerYes();
-               },
-           .run = [](WritingWorld& world) { world.archivio().Command3.press(); },
+           .ready = readyToCorrect(20, 7),
+           .run = pressCorrection,
            .database = archiveOf},
           {.name = "RipristinaCopia",
            .files =
@@ -179,13 +178,8 @@ std::vector<WritingOperation> sumOperations() {
                [](WritingWorld& world) {
                  const OtherProgram other(world.folder / "Archivio.mdb", "DROP TABLE VerificaEstrazioni");
                },
-           .ready =
-               [](WritingWorld& world) {
-                 world.archivio().HScrestrazione.set(10);
-                 type(world.archivio(), 9);
-                 world.shell.answerYes();
-               },
-           .run = [](WritingWorld& world) { world.archivio().Command3.press(); },
+           .ready = readyToCorrect(10, 9),
+           .run = pressCorrection,
            .database = archiveOf}};
 }
 
