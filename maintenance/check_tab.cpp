@@ -24,17 +24,11 @@ namespace {
 
 constexpr std::string_view kClean = "in ordine";
 
+// A load of the same draws leaves the stamp.
 bool isSame(const Archive& inMemory, const std::vector<DrawRow>& rows) {
-  Archive read;
+  Archive read = inMemory;
   read.loadNumbers(rows);
-  if (read.NumEstrazioni() != inMemory.NumEstrazioni()) return false;
-  for (int draw = 1; draw <= read.NumEstrazioni(); ++draw) {
-    if (read.DateEstrazioni(draw) != inMemory.DateEstrazioni(draw)) return false;
-    for (int wheel = 0; wheel < kWheels; ++wheel)
-      for (int p = 1; p <= kPositions; ++p)
-        if (read.NumeriEstratti(draw, wheel, p) != inMemory.NumeriEstratti(draw, wheel, p)) return false;
-  }
-  return true;
+  return read.loadStamp() == inMemory.loadStamp();
 }
 
 // The wheels in which two versions of a draw differ, where they are few: "FI ", "FI MI ".
@@ -144,7 +138,7 @@ void CheckTab::show(const Look& look, double seconds) {
   a.Lbl_EsitoControllo.setText(look.damaged ? "L'archivio non si lascia leggere per intero."
                                             : fmt::format("{} estrazioni controllate in {} s: {}",
                                                           figureText(static_cast<double>(look.rows.size())),
-                                                          figureText(seconds, 1), what));
+                                                          figureText(std::max(seconds, 0.1), 1), what));
 }
 
 std::size_t CheckTab::found() const {
