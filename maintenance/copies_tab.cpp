@@ -26,6 +26,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* kNoCopy = "Nessuna copia: la prima nasce prima del prossimo aggiornamento";
 constexpr int kHelpContext = 280;  // of the tab, which has no button for it: F1 opens its page
 
 std::string momentText(const DateTime& t) {
@@ -125,8 +126,7 @@ void CopiesTab::ElencaCopie() {
 const Backup* CopiesTab::chosenCopy() const {
   const int row = a.Fg_Copie.current();
   if (row >= 1 && row <= static_cast<int>(m_copies.size())) return &m_copies[static_cast<std::size_t>(row) - 1];
-  a.shell().status(m_copies.empty() ? "Nessuna copia: la prima nasce prima del prossimo aggiornamento"
-                                    : "Scegli prima una copia dell'elenco");
+  a.shell().status(m_copies.empty() ? kNoCopy : "Scegli prima una copia dell'elenco");
   return nullptr;
 }
 
@@ -192,7 +192,7 @@ void CopiesTab::EsportaStato() {
 
 void connectCopiesTab(Archivio& a) {
   const auto tab = std::make_shared<CopiesTab>(a);
-  a.Fg_Copie.setEmptyText("Nessuna copia: la prima nasce prima del prossimo aggiornamento");
+  a.Fg_Copie.setEmptyText(kNoCopy);
   a.SSTab1.onEvent([tab] { tab->enter(); });
   a.Cmd_Ripristina.onEvent([tab] { tab->RipristinaCopia(); });
   a.Cmd_VerificaCopia.onEvent([tab] { tab->VerificaCopia(); });

@@ -1,32 +1,17 @@
 #include "screens/archive/copies_page.h"
 
 #include "screens/kit/kit.h"
-#include "screens/kit/theme.h"
+#include "screens/kit/state_mark.h"
 
 namespace trv5 {
 namespace {
 
-// A small line that asks for the room of its text, and gives up its end where the window has less.
-class WholeNote : public SmallNote {
- public:
-  explicit WholeNote(const QString& text) : SmallNote(Qt::ElideRight, Qt::AlignLeft) {
-    setText(text);
-    setToolTip(text);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  }
-  QSize sizeHint() const override {
-    const QFontMetrics small(Theme::current().small());
-    return {small.horizontalAdvance(text()) + 1, SmallNote::sizeHint().height()};
-  }
-  QSize minimumSizeHint() const override { return SmallNote::sizeHint(); }
-};
-
 QWidget* copiesPanel(Kit& kit) {
   auto* const panel = new Panel(QStringLiteral("Copie dell'archivio"));
   panel->head()->addWidget(kit.button("Cmd_EsportaStato", {.kind = ButtonKind::Quiet, .icon = "upload"}));
-  panel->body()->addWidget(
-      new WholeNote(QStringLiteral("Prima di ogni aggiornamento, correzione, cancellazione e importazione: restano le "
-                                   "ultime dieci e una al mese.")));
+  auto* const when = new SmallNote(Qt::ElideRight, Qt::AlignLeft);
+  when->setText(QStringLiteral("Prima di ogni modifica dell'archivio: restano le ultime dieci e una al mese."));
+  panel->body()->addWidget(when);
   panel->body()->addWidget(
       kit.grid("Fg_Copie", {.name = QStringLiteral("Copie dell'archivio"),
                             .samples = {QStringLiteral("88/88/8888 88:88"), QStringLiteral("aggiornamento"),
