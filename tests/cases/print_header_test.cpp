@@ -80,5 +80,22 @@ TEST(PrintHeader, TellsAPureNumberAsANumber) {
   EXPECT_EQ(lines.at(lines.size() - 2), "Ambi: numero 44");
 }
 
+TEST(MethodName, IsTheOneGivenOrElseTellsTheCases) {
+  std::mt19937 rng(5);
+  WorkbenchWorld world(randomArchive(rng, 200));
+  Workbench& w = world.w;
+  EXPECT_EQ(methodName(w), "");
+  world.positions({1, 2, 3, 4, 5});
+  WorkbenchWorld::choose(w.ComboFiltro, "Numeri");
+  w.TxtNumeri.set("07-13-21-35-44-50-62-70-81-90");
+  world.press("Command44");
+  ASSERT_TRUE(w.FgEv.hasData());
+  EXPECT_EQ(methodName(w), "Numeri 07-13-21-35-44-50-62-70-81-90 BA");
+  w.Ch_analisi2ruote.set(true);
+  EXPECT_EQ(methodName(w), "Numeri 07-13-21-35-44-50-62-70-81-90 su 2 ruote");
+  w.Txt_Denominazione.set("  Il mio  ");
+  EXPECT_EQ(methodName(w), "Il mio");
+}
+
 }  // namespace
 }  // namespace trv5

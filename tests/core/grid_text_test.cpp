@@ -59,5 +59,37 @@ TEST(CsvText, ShowsWhatIsVisibleAndQuotesWhereNeeded) {
   EXPECT_EQ(csvText(grid), "\xEF\xBB\xBFRuota;Esito\r\nNZ;\"<\"\"&>\"\r\n");
 }
 
+TEST(TabbedHtml, MakesARowOfEachLineAndACellOfEachField) {
+  EXPECT_EQ(tabbedHtml("a\tb\r\n<1>\t"),
+            "<table><tr><td>a</td><td>b</td></tr><tr><td>&lt;1&gt;</td><td></td></tr></table>");
+  EXPECT_EQ(tabbedHtml(""), "<table></table>");
+  EXPECT_EQ(tabbedHtml("a\r\n\r\nb\r\n"), "<table><tr><td>a</td></tr><tr><td></td></tr><tr><td>b</td></tr></table>");
+}
+
+TEST(ExportableText, KeepsCharactersOfEachLength) {
+  for (const char* text : {"ciao\tqui\n", "perch\xC3\xA9", "\xE2\x82\xAC", "\xED\x9F\xBF", "\xF0\x9F\x8E\xB2",
+                           "\xF4\x8F\xBF\xBD", "\xC2\x80", "\xE0\xA0\x80", "\xF0\x90\x80\x80"})
+    EXPECT_EQ(exportableText(text), text);
+}
+
+TEST(ExportableText, MakesEveryEndOfLineALineFeed) {
+  EXPECT_EQ(exportableText("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
+}
+
+TEST(ExportableText, MarksWhatIsNoCharacter) {
+  const std::string mark = "\xEF\xBF\xBD";
+  EXPECT_EQ(exportableText(std::string("a\0b\x7F", 4)), "a" + mark + "b" + mark);
+  EXPECT_EQ(exportableText("perch\xE9 no"), "perch" + mark + " no");  // Latin-1
+  EXPECT_EQ(exportableText("\xC3"), mark);                            // cut off
+  EXPECT_EQ(exportableText("\x80z"), mark + "z");                     // begins in the middle
+  EXPECT_EQ(exportableText("\xC0\xAF"), mark + mark);                 // longer than it has to be
+  EXPECT_EQ(exportableText("\xE0\x9F\xBF"), mark + mark + mark);
+  EXPECT_EQ(exportableText("\xF0\x8F\xBF\xBF"), mark + mark + mark + mark);
+  EXPECT_EQ(exportableText("\xED\xA0\x80"), mark + mark + mark);             // half a pair of UTF-16
+  EXPECT_EQ(exportableText("\xF4\x90\x80\x80"), mark + mark + mark + mark);  // beyond the last one
+  EXPECT_EQ(exportableText("\xF5z"), mark + "z");
+  EXPECT_EQ(exportableText("\xEF\xBF\xBEz\xEF\xBF\xBF"), mark + "z" + mark);  // code points that are none
+}
+
 }  // namespace
 }  // namespace trv5

@@ -267,5 +267,28 @@ TEST(SituationName, TellsTheKindItsValueAndTheWheel) {
   EXPECT_EQ(situationName({.kind = SituationKind::NumPari, .period = 3}), "Num Pari 3 a BA");
 }
 
+TEST(ProvaAvanti, TheAxisNamesYearsAsFarApartAsTheTestsAllow) {
+  ForwardWorld world;
+  world.press("Command23");
+  ProvaAvanti& test = world.open();
+  EXPECT_TRUE(test.yearTicks().empty());
+  test.Cmd_Prova.press();
+  const std::vector<ForwardTest>& tests = test.figures().tests;
+  const auto yearOf = [&](int draw) { return world.archive.DateEstrazioni(draw).substr(6); };
+  const std::vector<ProvaAvanti::YearTick> ticks = test.yearTicks();
+  ASSERT_FALSE(ticks.empty());
+  for (std::size_t i = 0; i < ticks.size(); ++i) {
+    ASSERT_GE(ticks[i].test, 1);
+    ASSERT_LE(ticks[i].test, static_cast<int>(tests.size()));
+    EXPECT_EQ(ticks[i].year, yearOf(tests[static_cast<std::size_t>(ticks[i].test - 1)].draw));
+    if (ticks[i].test > 1) {  // the first test of its year
+      EXPECT_NE(ticks[i].year, yearOf(tests[static_cast<std::size_t>(ticks[i].test - 2)].draw));
+    }
+    if (i > 0) {
+      EXPECT_GT(ticks[i].year, ticks[i - 1].year);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace trv5
