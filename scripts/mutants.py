@@ -15,6 +15,7 @@ import re
 import shutil
 import subprocess
 import sys
+import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PLACE = ROOT / "build" / "mutants"
@@ -25,7 +26,8 @@ SOURCES = ["method/vote_counter.cpp", "method/vote_rings.cpp", "method/vote_ring
            "method/elaboration.cpp", "method/number_count.cpp", "engine/verification.cpp",
            "engine/candidate_check.cpp", "engine/evaluation.cpp", "core/numbers.h"]
 TESTS = ["test_method", "test_cases", "test_engine"]
-LONGEST = 600  # seconds of one test program, on a machine that does other things too
+SHARES = ("5", "100")  # of the random settings: the few are enough for most mutants
+PATIENCE = 20  # times as long as without a change; what takes longer doesn't end
 
 # What stands in the code, and what takes its place.
 CHANGES = [(r" <= ", " < "), (r" < ", " <= "), (r" >= ", " > "), (r" > ", " >= "), (r" == ", " != "), (r" != ", " == "),
@@ -55,18 +57,20 @@ def build():
     return subprocess.run(["cmake", "--build", PLACE / "build", "--target", *TESTS], capture_output=True).returncode == 0
 
 
-def killed():
-    """Whether a test notices: a share of the random settings first, which is enough for most, then all of them."""
-    for share in ("5", "100"):
-        for test in TESTS:
-            try:
-                if subprocess.run([PLACE / "build" / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
-                                  capture_output=True, timeout=LONGEST,
-                                  env={**os.environ, "TRV5_RANDOM_SHARE": share}).returncode != 0:
-                    return True
-            except subprocess.TimeoutExpired:
-                return True
-    return False
+def seconds_of(test, share, longest=None):
+    """How long the test program takes, or None when it fails, crashes or doesn't end in time."""
+    begin = time.monotonic()
+    try:
+        run = subprocess.run([PLACE / "build" / "bin" / test, "--gtest_fail_fast", "--gtest_brief=1"],
+                             capture_output=True, timeout=longest, env={**os.environ, "TRV5_RANDOM_SHARE": share})
+    except subprocess.TimeoutExpired:
+        return None
+    return time.monotonic() - begin if run.returncode == 0 else None
+
+
+def killed(usual):
+    """Whether a test notices: with a share of the random settings, or with all of them."""
+    return any(seconds_of(test, share, 10 + PATIENCE * usual[share, test]) is None for share, test in usual)
 
 
 def prepare():
@@ -75,15 +79,18 @@ def prepare():
     shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns(".git", "build"))
     subprocess.run(["cmake", "-S", copy, "-B", PLACE / "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
                     "-DTRV5_GUI=OFF"], check=True, capture_output=True)
-    if not build() or killed():
+    usual = {}
+    if build():
+        usual = {(share, test): seconds_of(test, share) for share in SHARES for test in TESTS}
+    if not usual or None in usual.values():
         sys.exit("The tests have to pass before anything is changed.")
-    return copy
+    return copy, usual
 
 
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 200
     first = int(sys.argv[2]) if len(sys.argv) > 2 else 0
-    copy = prepare()
+    copy, usual = prepare()
     survivors, dead, unbuilt = [], 0, 0
     for name, number, changed in mutants(copy)[first:]:
         if dead + len(survivors) == count:
@@ -95,7 +102,7 @@ def main():
         file.write_text("".join(lines), encoding="utf-8")
         if not build():
             unbuilt += 1  # the compiler noticed: no mutant
-        elif killed():
+        elif killed(usual):
             dead += 1
         else:
             survivors.append(f"{name}:{number + 1}: {before}  ->  {changed.strip()}")
