@@ -39,14 +39,6 @@ Verification verify(const Archive& archive, const Method& method, Table table, c
   return play(archive, method, table, caseDraws, scope, numbersInPlay(archive, method.formulas, caseDraws, carry));
 }
 
-std::vector<CompanionRow> companionRows(const std::vector<Hits>& hits, const std::vector<int>& caseDraws) {
-  std::vector<CompanionRow> rows;
-  for (std::size_t i = 0; i < hits.size(); ++i)
-    for (const Hit& hit : hits[i])
-      rows.push_back({caseDraws[i], hit.draw, {hit.numbers.begin(), hit.numbers.begin() + hit.named}});
-  return rows;
-}
-
 RowVerification verifyRow(const Archive& archive, const PlayWindow& window, const std::vector<int>& caseDraws,
                           ParametriFormula& carry, const std::function<void(ParametriFormula&)>& evaluate) {
   RowVerification v;

@@ -52,9 +52,6 @@ Verification play(const Outcomes& outcomes, const Method& method, Table table, c
 Hits hitsOfCase(const Outcomes& outcomes, Table table, const CaseNumbers& numbers, int caseDraw,
                 const PlayWindow& window, int sorte);
 
-/// The hits of all cases as a search of companions starts from them: the numbers that each hit names are in play.
-std::vector<CompanionRow> companionRows(const std::vector<Hits>& hits, const std::vector<int>& caseDraws);
-
 /// One formula played by itself, in each case its number and the hits.
 struct RowVerification {
   std::vector<int> numbers;

@@ -9,6 +9,7 @@
 #include "method/verification.h"
 #include "support/random_runs.h"
 #include "support/random_search.h"
+#include "support/whole_method.h"
 
 namespace trv5 {
 namespace {

@@ -149,5 +149,13 @@ TEST(CompanionSearch, CountsPastTwoHundredFiftyFive) {
   EXPECT_EQ(rowOf(request, 20).cc, 600);
 }
 
+TEST(CompanionSearch, TakesForInPlayWhatTheLottoHas) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 95}}}});
+  CompanionRequest request = onRows(archive, {{1, 2, {-3, 1, 95, 1000}}});
+  request.least = request.most = 1;
+  for (const int companion : {20, 30, 40}) EXPECT_EQ(rowOf(request, companion).cc, 1);
+  EXPECT_EQ(rowOf(request, 1).cc, 0);
+}
+
 }  // namespace
 }  // namespace trv5

@@ -34,6 +34,14 @@ void takeBest(const Archive& archive, WholeMethod& whole, Table table, const Com
 
 }  // namespace
 
+std::vector<CompanionRow> companionRows(const std::vector<Hits>& hits, const std::vector<int>& caseDraws) {
+  std::vector<CompanionRow> rows;
+  for (std::size_t i = 0; i < hits.size(); ++i)
+    for (const Hit& hit : hits[i])
+      rows.push_back({caseDraws[i], hit.draw, {hit.numbers.begin(), hit.numbers.begin() + hit.named}});
+  return rows;
+}
+
 WholeMethod playWholeMethod(const Archive& archive, Method method) {
   WholeMethod whole{.method = std::move(method)};
   Method& m = whole.method;

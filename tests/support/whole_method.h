@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "method/elaboration.h"
+#include "method/search.h"
 #include "method/summary.h"
 
 namespace trv5 {
@@ -16,6 +17,9 @@ struct WholeMethod {
   Elaboration elaborated = {};
   Summary summary = {};
 };
+
+/// The hits of all cases as a search of companions starts from them: the numbers that each hit names are in play.
+std::vector<CompanionRow> companionRows(const std::vector<Hits>& hits, const std::vector<int>& caseDraws);
 
 /// Detects the cases; searches an ambata (2N 1R, "N1 + N2", with fix), an ambo, a terno, and, on top of these three in
 /// a lunghetta, one more number, each time taking the best formula over; verifies all of it.
