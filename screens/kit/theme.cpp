@@ -9,6 +9,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QProxyStyle>
 #include <QRadioButton>
 #include <QStyleFactory>
@@ -26,6 +27,8 @@ static void initScreensResources() {
 
 namespace trv5 {
 namespace {
+
+constexpr int kPixmapCacheKilobytes = 1024;
 
 // Layouts that set no spacing of their own take the unit, so that they follow a change of density or font.
 class UnitStyle : public QProxyStyle {
@@ -182,6 +185,8 @@ Theme::Theme(QApplication& app) : m_app(app), m_desktopDark(desktopIsDark()), m_
   assert(of(app) == nullptr);
   setParent(&app);
   initScreensResources();
+  // Each window that opens leaves its pictures of the program's mark there, under names that nobody asks for again.
+  QPixmapCache::setCacheLimit(kPixmapCacheKilobytes);
   m_app.setStyle(new UnitStyle(*this));
   apply();
 }
