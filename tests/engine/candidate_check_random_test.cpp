@@ -44,6 +44,8 @@ void randomCandidates(WorkbenchWorld& world, std::mt19937& rng) {
   if (below(rng, 3) == 0) w.Fg00.cutToHeading();
   if (below(rng, 2) == 0)
     for (GridControl* table : {&w.Fg11, &w.Fg22, &w.Fg33, &w.Fg00, &w.FgF}) mendUnknownTexts(*table);
+  if (w.FgF.hasData() && below(rng, 6) == 0)  // of no kind that is evaluated
+    w.FgF.setText(1 + below(rng, w.FgF.dataRows()), formula_column::kNr, "3");
   w.FgF.setCurrent(below(rng, w.FgF.rows() + 1) - 1);
   for (int row = 1; row < w.FgF.rows(); ++row) {
     if (below(rng, 5) == 0) continue;

@@ -46,6 +46,18 @@ TEST(FormulaValues, OfThreeElementsMayTakeTheSameNumberThreeTimes) {
   EXPECT_EQ(valueOf(formulaInput({Shape::ThreeOneWheel}), archive, {{0, 0, 0}, {1, 1, 1}}), 240 - 180);
 }
 
+TEST(FormulaValues, OfADrawThatCannotBeAreThoseOfAWheelNotDrawn) {
+  const Archive archive = archiveOf({{{"BA", {80, 5, 3, 4, 6}}}});
+  const FormulaInput formula = formulaInput({Shape::OneNumber});
+  const FormulaValues values(archive, formula, {1, -1, Archive::kMaxDraws + 1, 1}, {ElementSet{{0, 0, 0}, {1, 0, 0}}});
+  std::vector<std::uint8_t> row(values.rowLength());
+  values.values(0, row.data());
+  EXPECT_EQ(row[0], 80);
+  EXPECT_EQ(row[1], 0);
+  EXPECT_EQ(row[2], 0);
+  EXPECT_EQ(row[3], 80);
+}
+
 TEST(ElementSets, CountAsTheShapesTell) {
   const TripleFlags triples = ascendingTriples();
   const auto count = [&](Shape shape) { return elementSets(shape, SetOrder::WheelsFirst, triples).size(); };
