@@ -52,6 +52,13 @@ TEST(NumberCount, LeavesOutTheNumberInPlayAlsoOnAnotherWheel) {
   EXPECT_EQ(counts[6], (NumberCount{1, 1}));
 }
 
+TEST(NumberCount, PassesOverNumbersInPlayThatTheLottoDoesNotHave) {
+  const Archive archive = archiveOf({{{"BA", {1, 2, 3, 4, 5}}}});
+  const NumberCounts counts = countNumbersAtHits(archive, {{1, 1, {-5, 1, 91, 1000000}}}, 1U);
+  EXPECT_EQ(counts[1], (NumberCount{0, 0}));
+  EXPECT_EQ(counts[2], (NumberCount{1, 1}));
+}
+
 TEST(NumberCount, TakesTwoHitsOfACaseForOneCase) {
   const Archive archive = archiveOf({{{"BA", {1, 2, 3, 4, 5}}}, {{"BA", {1, 2, 6, 7, 8}}}});
   const NumberCounts counts = countNumbersAtHits(archive, {{4, 1, {1}}, {4, 2, {1}}}, 1U);
