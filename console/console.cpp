@@ -71,6 +71,7 @@ const std::map<std::string, Console::Command, std::less<>>& Console::commands() 
                                                                     {"focus", &Console::focus},
                                                                     {"screens", &Console::screens},
                                                                     {"controls", &Console::controls},
+                                                                    {"memory", &Console::memory},
                                                                     {"shot", &Console::shot},
                                                                     {"quit", &Console::quit}};
   return known;

@@ -50,6 +50,7 @@ class Console {
   std::string focus(const Arguments& line);
   std::string screens(const Arguments& line);
   std::string controls(const Arguments& line);
+  std::string memory(const Arguments& line);
   std::string shot(const Arguments& line);
   std::string quit(const Arguments& line);
 

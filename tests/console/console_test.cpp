@@ -202,6 +202,15 @@ TEST_F(ConsoleTest, ListsTheControlsWithTheirKindsAndHowFarTheyGo) {
   refuses("controls");
 }
 
+TEST_F(ConsoleTest, TellsTheMemoryInUse) {
+  const auto inUse = [this] { return does("memory")["bytes"].get<long long>(); };
+  const long long before = inUse();
+  EXPECT_GT(before, 100000);
+  const std::vector<char> more(50000000, 'x');
+  EXPECT_GE(inUse(), before + 50000000);
+  EXPECT_EQ(more.back(), 'x');
+}
+
 TEST(GridDump, IsJsonForAnyText) {
   Grid grid(3, 1);
   grid.setText(0, 0, "\"\\\t\x01");

@@ -13,6 +13,7 @@ using nlohmann::json;
 
 // Beside the method that the demonstration plays: the other screens, and the lines that it has no use for.
 constexpr const char* kMoreLines = R"(["controls", "Sommativi1"]
+["memory"]
 ["set", "Sommativi1", "Txt_Denominazione", "Metodo"]
 ["set", "Sommativi1", "SSTab3", 9]
 ["click", "Sommativi1", "Command4"]
