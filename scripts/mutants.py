@@ -43,6 +43,7 @@ EQUIVALENT = [
      "{ return levelsAt(i) >= level; });", "", "cases that add nothing are added too"),
     ("method/hits.cpp", "set = set * m_lists[l].size() + m_place[l][m_set[l]] - 0;", "",
      "each set's place goes up by the same"),
+    ("method/vote_rings.cpp", "m_levelBytes = (m_order.size() + 2) * stride;", "", "room that nobody asks for"),
     ("method/vote_rings.h", "std::size_t m_stride = 0, m_levelBytes = 1;", "", "layOut sets it"),
     ("method/vote_rings.h", "int m_mostVotes = 1;", "", "a bound that passes over less"),
     ("method/formula_values.h", "std::size_t m_cases = 0, m_rowLength = 1;", "", "the constructor sets it"),

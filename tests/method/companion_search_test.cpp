@@ -149,6 +149,12 @@ TEST(CompanionSearch, CountsPastTwoHundredFiftyFive) {
   EXPECT_EQ(rowOf(request, 20).cc, 600);
 }
 
+TEST(CompanionSearch, TakesADrawThatCannotBeForOneWithoutNumbers) {
+  const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}}});
+  const CompanionRequest request = onRows(archive, {{1, -1, {1}}, {1, Archive::kMaxDraws + 1, {1}}, {1, 2, {1}}});
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+}
+
 TEST(CompanionSearch, TakesForInPlayWhatTheLottoHas) {
   const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 95}}}});
   CompanionRequest request = onRows(archive, {{1, 2, {-3, 1, 95, 1000}}});

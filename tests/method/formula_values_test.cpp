@@ -58,6 +58,17 @@ TEST(FormulaValues, OfADrawThatCannotBeAreThoseOfAWheelNotDrawn) {
   EXPECT_EQ(row[3], 80);
 }
 
+TEST(FormulaValues, OfAsManyCasesInAnotherOrderFollowThatOrder) {
+  const Archive archive = archiveOf({{{"BA", {80, 5, 3, 4, 6}}}, {{"BA", {70, 5, 3, 4, 6}}}});
+  const FormulaValues values(archive, formulaInput({Shape::OneNumber}), {1, 2}, {ElementSet{{0, 0, 0}, {1, 0, 0}}});
+  std::vector<std::uint8_t> row(values.rowLength());
+  values.of({1, 1}).values(0, row.data());
+  EXPECT_EQ(row[0], 70);
+  EXPECT_EQ(row[1], 70);
+  values.of({0, 1}).values(0, row.data());
+  EXPECT_EQ(row[0], 80);
+}
+
 TEST(ElementSets, CountAsTheShapesTell) {
   const TripleFlags triples = ascendingTriples();
   const auto count = [&](Shape shape) { return elementSets(shape, SetOrder::WheelsFirst, triples).size(); };
