@@ -119,6 +119,8 @@ def prepare():
     copy = PLACE / "source"
     shutil.rmtree(copy, ignore_errors=True)
     shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns(".git", "build"))
+    for name in SOURCES:  # what a run that was stopped had changed is built again
+        (copy / name).touch()
     subprocess.run(["cmake", "-S", copy, "-B", PLACE / "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
                     "-DCMAKE_CXX_FLAGS=-D_GLIBCXX_ASSERTIONS",  # what reads behind an end is noticed
                     "-DTRV5_GUI=OFF"], check=True, capture_output=True)
