@@ -21,6 +21,8 @@
 #include <cmath>
 #include <utility>
 
+#include "screens/kit/icons.h"
+
 static void initScreensResources() {
   Q_INIT_RESOURCE(screens);
 }
@@ -87,6 +89,11 @@ class UnitStyle : public QProxyStyle {
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     if (element == PE_FrameFocusRect && drawFocus(*option, *painter, widget)) return;
+    if (element == PE_FrameWindow) {
+      painter->setPen(toColor(Theme::current().colours().edge));
+      painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+      return;
+    }
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
       QStyleOptionButton edged;
       if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) edged = *button;
@@ -98,9 +105,35 @@ class UnitStyle : public QProxyStyle {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 
-  // The thumb of a scroll bar stands out like the border of a control.
+  // Fusion writes the title of an inner window in white or black, whatever the ground: here it has the colours of what
+  // is current, or of a heading.
+  void drawTitleBar(const QStyleOptionTitleBar& bar, QPainter& painter, const QWidget* widget) const {
+    const ChromeColours& c = Theme::current().colours();
+    const bool active = (bar.titleBarState & State_Active) != 0;
+    const auto part = [&](SubControl control) { return proxy()->subControlRect(CC_TitleBar, &bar, control, widget); };
+    painter.fillRect(bar.rect, toColor(active ? c.accent : c.heading));
+    painter.setPen(toColor(active ? c.accent : c.edge));
+    painter.drawRect(bar.rect.adjusted(0, 0, -1, -1));
+    bar.icon.paint(&painter, part(SC_TitleBarSysMenu));
+    painter.setPen(toColor(active ? c.onAccent : c.headingText));
+    const QRect room = part(SC_TitleBarLabel);
+    painter.drawText(room, Qt::AlignCenter, bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, room.width()));
+    const QRect close = part(SC_TitleBarCloseButton);
+    const bool pointedAt = (bar.activeSubControls & SC_TitleBarCloseButton) != 0;
+    if (pointedAt) painter.fillRect(close, toColor(active ? c.onAccent : c.line));
+    icon(QStringLiteral("close"), active && !pointedAt ? IconInk::OnAccent : IconInk::Text).paint(&painter, close);
+  }
+
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
+    if (const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+        control == CC_TitleBar && title != nullptr) {
+      painter->save();
+      drawTitleBar(*title, *painter, widget);
+      painter->restore();
+      return;
+    }
+    // The thumb of a scroll bar stands out like the border of a control.
     const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control != CC_ScrollBar || bar == nullptr) {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -130,6 +163,8 @@ class UnitStyle : public QProxyStyle {
     if (hint == SH_Widget_Animation_Duration) return 0;
     // Some desktops put green and red pictures on the buttons of boxes: colours belong to the data.
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    // Inner windows have square corners.
+    if (hint == SH_WindowFrame_Mask) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 

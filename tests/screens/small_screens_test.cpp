@@ -62,6 +62,29 @@ TEST(SmallScreens, ExistWithTheirTitles) {
   }
 }
 
+TEST(SmallScreens, HaveATitleInTheColoursOfTheTheme) {
+  SmallScreensWorld world;
+  for (const bool dark : {false, true}) {
+    Theme::edit().setDark(dark);
+    const ChromeColours& c = Theme::current().colours();
+    world.shell.show("ElencoRiscontri");
+    world.shell.show("Estrazioni_minielenco");
+    settle();
+    for (const auto& [screen, ground] :
+         {std::pair("Estrazioni_minielenco", c.accent), std::pair("ElencoRiscontri", c.heading)}) {
+      QMdiSubWindow& window = world.window(screen);
+      const int height = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+      const QImage bar = window.grab(QRect(window.width() / 4, 2, window.width() / 2, height - 4)).toImage();
+      EXPECT_TRUE(hasColour(bar, ground, 0.7)) << screen << dark;
+      double most = 0;
+      for (int y = 0; y < bar.height(); ++y)
+        for (int x = 0; x < bar.width(); ++x) most = std::max(most, contrast(pixel(bar, x, y), ground));
+      EXPECT_GE(most, 4.5) << screen << dark;
+    }
+  }
+  Theme::edit().setDark(false);
+}
+
 TEST(SmallScreens, CloseWithEsc) {
   SmallScreensWorld world;
   for (const char* const screen : {"Estrazioni_minielenco", "ElencoRiscontri", "EvoluzioneGrafica", "Speciale"}) {
