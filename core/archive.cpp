@@ -1,7 +1,9 @@
 #include "core/archive.h"
 
 #include <atomic>
+#include <functional>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 #include "core/text.h"
@@ -11,6 +13,23 @@ namespace {
 
 constexpr std::size_t kSlots =
     Archive::kMaxDraws + 2;  // one beyond the last draw: "the next draw" of the last is empty
+
+// Of the draws up to each one, 0..`count`.
+std::vector<std::uint64_t> digestsOf(const std::vector<std::uint8_t>& numbers, const std::vector<std::string>& dates,
+                                     std::size_t count) {
+  constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;  // spreads the bits of each sum over the word
+  std::vector<std::uint64_t> digests = {0};
+  digests.reserve(count + 1);
+  for (std::size_t draw = 1; draw <= count; ++draw) {
+    const std::string_view drawn(reinterpret_cast<const char*>(&numbers[draw * Archive::kDrawBytes]),
+                                 Archive::kDrawBytes);
+    std::uint64_t digest = digests.back();
+    for (const std::string_view part : {drawn, std::string_view(dates[draw])})
+      digest = (digest + std::hash<std::string_view>()(part)) * kOdd + 1;
+    digests.push_back(digest);
+  }
+  return digests;
+}
 
 }  // namespace
 
@@ -34,7 +53,10 @@ void Archive::loadNumbers(const std::vector<DrawRow>& rows) {
   }
   static std::atomic<std::uint64_t> loads = 0;
   const bool same = m_stamp != 0 && m_count == static_cast<int>(rows.size()) && shown == m_shown && dates == m_dates;
-  if (!same) m_stamp = ++loads;
+  if (!same) {
+    m_stamp = ++loads;
+    m_digests = digestsOf(shown, dates, rows.size());
+  }
   m_shown = std::move(shown);
   m_dates = std::move(dates);
   m_numbers = m_shown;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -44,6 +45,9 @@ class Archive {
 
   /// Differs after each load that brings other draws than before, in whichever archive of the program.
   std::uint64_t loadStamp() const { return m_stamp; }
+  /// Stands for the dates and numbers of the draws 1..`last`, within this run of the program: where one of them is
+  /// another, it is another. A `last` behind the archive's end means that end.
+  std::uint64_t digest(int last) const { return m_digests[static_cast<std::size_t>(std::min(last, m_count))]; }
 
   int NumEstrazioni() const { return m_count; }
   /// The last valid draw index; follows `NumEstrazioni` only at a full load.
@@ -80,6 +84,7 @@ class Archive {
   std::vector<std::string> m_dates;
   std::vector<std::int16_t> m_month, m_year;
   std::vector<int> m_model;
+  std::vector<std::uint64_t> m_digests = {0};  // up to each draw
   std::uint64_t m_stamp = 0;
   int m_count = 0;
   int m_last = 0;

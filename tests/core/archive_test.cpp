@@ -113,6 +113,27 @@ TEST(Archive, TooManyDrawsLeaveItAsItWas) {
   EXPECT_EQ(archive.NumEstrazioni(), Archive::kMaxDraws);
 }
 
+TEST(Archive, HasADigestThatDiffersFromTheFirstDrawThatDoes) {
+  const std::vector<DrawRow> rows = {
+      {"07/01/1939", {"01 02 03 04 05"}}, {"14/01/1939", {"11 12 13 14 15"}}, {"21/01/1939", {"21 22 23 24 25"}}};
+  Archive archive, other;
+  EXPECT_EQ(archive.digest(0), other.digest(3));
+  archive.loadNumbers(rows);
+  other.loadNumbers(rows);
+  for (int last = 0; last <= 3; ++last) EXPECT_EQ(archive.digest(last), other.digest(last));
+  EXPECT_EQ(archive.digest(4), archive.digest(3));
+  EXPECT_NE(archive.digest(3), archive.digest(2));
+  std::vector<DrawRow> date = rows, number = rows, shorter = rows;
+  date[1].date = "15/01/1939";
+  number[1].wheels[0] = "11 12 13 14 16";
+  shorter.erase(shorter.begin() + 1);
+  for (const std::vector<DrawRow>& changed : {date, number, shorter}) {
+    other.loadNumbers(changed);
+    EXPECT_EQ(other.digest(1), archive.digest(1));
+    for (int last = 2; last <= 3; ++last) EXPECT_NE(other.digest(last), archive.digest(last));
+  }
+}
+
 TEST(Archive, AShorterArchiveLeavesNothingOfTheLongerOne) {
   std::mt19937 rng(3);
   Archive archive = randomArchive(rng, 50);
