@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,9 +18,18 @@ struct SummaryChoice {
   bool operator==(const SummaryChoice&) const = default;
 };
 
+/// The draws 1..`last` as they were when something was made from them.
+struct DrawsRead {
+  int last = 0;
+  std::uint64_t digest = 0;  ///< `Archive::digest`
+
+  bool operator==(const DrawsRead&) const = default;
+};
+
 /// What a result was made from. A part that isn't set is one that the result doesn't read: no change of it matters.
 struct Origin {
   std::optional<Situation> situation = {};     ///< of the cases, with what its kind doesn't read left out
+  std::optional<DrawsRead> draws = {};         ///< not told of what is chosen now
   std::optional<std::vector<int>> cases = {};  ///< draw index of each
   std::optional<WheelSet> wheels = {};         ///< the wheels of play
   std::optional<int> colpi = {};

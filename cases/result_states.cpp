@@ -29,10 +29,23 @@ void addTo(Sources& all, const Sources& more) {
     if (std::find(all.begin(), all.end(), origin) == all.end()) all.push_back(origin);
 }
 
-// The situation that the listed cases come from, and these.
+bool areTheSame(const Workbench& w, const DrawsRead& draws) {
+  return w.archive.digest(draws.last) == draws.digest;
+}
+
+// What is made from the draws 1..`last`; where it is made from cases too whose draws have changed since, it is no newer
+// than these.
+void readsDraws(const Workbench& w, Origin& origin, int last) {
+  if (!origin.draws || areTheSame(w, *origin.draws)) origin.draws = DrawsRead{last, w.archive.digest(last)};
+}
+
+// The situation that the listed cases come from, the draws in which they were looked for, and these cases.
 Origin casesOrigin(const Workbench& w) {
   Origin origin;
-  if (const Sources& list = sourcesOf(w, w.FgEv.name()); !list.empty()) origin.situation = list.front().situation;
+  if (const Sources& list = sourcesOf(w, w.FgEv.name()); !list.empty()) {
+    origin.situation = list.front().situation;
+    origin.draws = list.front().draws;
+  }
   origin.cases = caseDraws(w);
   return origin;
 }
@@ -64,6 +77,7 @@ Origin tableOrigin(const Workbench& w, Table table) {
   origin.colpi = w.Colpi;
   origin.reference = w.EstrazioneRiferimento;
   origin.table = table;
+  readsDraws(w, origin, w.EstrazioneRiferimento);
   return origin;
 }
 
@@ -158,6 +172,8 @@ Reason reasonOf(const Workbench& w, const ResultRow& row, const Origin& now) {
   const Sources& from = sourcesOf(w, row.grid);
   for (const Origin& origin : from)
     if (Reason reason = reasonOf(origin, now)) return reason;
+  for (const Origin& origin : from)
+    if (origin.draws && !areTheSame(w, *origin.draws)) return "Nell'archivio sono cambiate estrazioni su cui è fatto";
   return from.empty() ? Reason() : row.reason(w, from);
 }
 
@@ -244,13 +260,17 @@ Origin verificationOrigin(const Workbench& w, Table table, bool beyondLimit) {
   for (const Table read : {Table::Ambate, Table::Ambi, Table::Terni, Table::Lunghetta})
     if (read == table || static_cast<int>(indexOf(read)) < joined) origin.formulas[indexOf(read)] = formulasOf(w, read);
   if (table == Table::Lunghetta) origin.sorte = w.ComboSorte.number();
-  if (beyondLimit) origin.archiveEnd = w.archive.UltimaEstrazione();
+  if (beyondLimit) {
+    origin.archiveEnd = w.archive.UltimaEstrazione();
+    readsDraws(w, origin, w.archive.UltimaEstrazione());
+  }
   return origin;
 }
 
 void noteCases(Workbench& w) {
   Origin origin;
   origin.situation = chosenSituation(w);
+  readsDraws(w, origin, w.EstrazioneRiferimento);
   setSources(w, w.FgEv, {origin});
   w.origins.marks = {};
 }
@@ -299,6 +319,7 @@ void noteNumbersInPlay(Workbench& w) {
   Origin origin = casesOrigin(w);
   origin.colpi = w.Colpi;
   origin.reference = w.EstrazioneRiferimento;
+  readsDraws(w, origin, w.EstrazioneRiferimento);
   for (const TableTraits& table : kTables) origin.formulas[indexOf(table.table)] = formulasOf(w, table.table);
   setSources(w, w.Fg15, {origin});
 }
@@ -308,6 +329,7 @@ void noteForecasts(Workbench& w) {
   own.wheels = greenWheels(w);
   own.colpi = w.Colpi;
   own.reference = w.EstrazioneRiferimento;
+  readsDraws(w, own, w.EstrazioneRiferimento);
   if (w.Fg00.hasData()) own.sorte = w.ComboSorte.number();
   Sources from = sourcesOf(w, w.Fg15.name());
   from.push_back(std::move(own));
@@ -323,6 +345,7 @@ void noteGrouping(Workbench& w) {
   Origin origin;
   origin.archiveEnd = w.archive.UltimaEstrazione();
   origin.configurations = listedConfigurations(w);
+  readsDraws(w, origin, w.archive.UltimaEstrazione());
   setSources(w, w.FgRagg, {origin});
 }
 
@@ -342,6 +365,7 @@ void noteDelays(Workbench& w, bool ofCases) {
   }
   origin.wheels = greenWheels(w);
   origin.reference = w.EstrazioneRiferimento;
+  readsDraws(w, origin, w.EstrazioneRiferimento);
   setSources(w, w.FgRit, {origin});
 }
 

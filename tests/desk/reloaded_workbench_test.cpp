@@ -119,6 +119,14 @@ struct ReloadedWorkbench : ::testing::Test {
     world.shell.answerYes();
     a->Cmd_Ripristina.press();
   }
+  // The results that say that they no longer fit.
+  std::set<std::string> marked() const {
+    std::set<std::string> found;
+    for (const char* const grid :
+         {"FgEv", "FgSSS", "FgZ1", "FgZ2", "FgZ3", "FgZ0", "Fg_Stat", "FgZZ", "FgIC", "FgRagg", "FgConv", "FgRit"})
+      if (!w->get<Label>(std::string("LblStato_") + grid).text().empty()) found.insert(grid);
+    return found;
+  }
   int middleCase() const { return caseDraw(*w, w->FgEv.rows() / 2); }
   void expectLabels();
   void expectNothingToTakeBack();
@@ -239,6 +247,35 @@ TEST_F(ReloadedWorkbench, OutlivesTheDeletionOfTheReferenceAndAllBehindIt) {
     EXPECT_GT(std::max(caseDraw(*w, 1), caseDraw(*w, w->FgEv.dataRows())), archive().NumEstrazioni());
   };
   expectOutlives(removeAll, kReference - 21, kReference - 21);
+}
+
+TEST_F(ReloadedWorkbench, TellsWhatWasMadeFromDrawsThatAreOthersNow) {
+  playMethod();
+  group();
+  playMethod();
+  press("Command103");
+  const std::set<std::string> upToTheReference = {"FgEv", "FgZ2", "FgZ3", "FgZ0", "FgIC", "FgRit"};
+  const std::set<std::string> upToTheEnd = {"FgZ1", "FgRagg", "FgConv", "FgZZ", "Fg_Stat"};
+  std::set<std::string> all = upToTheReference;
+  all.insert(upToTheEnd.begin(), upToTheEnd.end());
+  ASSERT_EQ(marked(), std::set<std::string>());
+
+  correct(kDraws);
+  EXPECT_EQ(marked(), upToTheEnd) << "the last draw, behind the reference draw";
+  restore();
+  EXPECT_EQ(marked(), std::set<std::string>()) << "the draws are again those that were";
+  correct(2);
+  EXPECT_EQ(marked(), all);
+  EXPECT_EQ(w->get<Label>("LblStato_FgEv").toolTip(), "Nell'archivio sono cambiate estrazioni su cui è fatto");
+  press("Command29");
+  EXPECT_TRUE(marked().contains("FgZ1")) << "made anew, but from cases of before";
+  press("Command44");
+  EXPECT_FALSE(marked().contains("FgEv"));
+  restore();
+  save("01/01/2030");
+  EXPECT_FALSE(marked().contains("FgZ2"));
+  remove(1);
+  EXPECT_TRUE(marked().contains("FgZ2")) << "the reference is the draw after";
 }
 
 TEST_F(ReloadedWorkbench, KeepsItsOperationsToBeTakenBackWhileTheArchiveIsOnlyLookedAt) {
