@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "search_setups.h"
 
 namespace trv5 {
@@ -151,7 +153,14 @@ TEST(CompanionSearch, CountsPastTwoHundredFiftyFive) {
 
 TEST(CompanionSearch, TakesADrawThatCannotBeForOneWithoutNumbers) {
   const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}}});
-  const CompanionRequest request = onRows(archive, {{1, -1, {1}}, {1, Archive::kMaxDraws + 1, {1}}, {1, 2, {1}}});
+  std::vector<CompanionRow> rows = {{1, 2, {1}}};
+  for (const int draw :
+       {std::numeric_limits<int>::min(), -1, Archive::kMaxDraws + 1, std::numeric_limits<int>::max()}) {
+    rows.push_back({1, draw, {1}});
+    rows.push_back({draw, 2, {1}});
+  }
+  const CompanionRequest request = onRows(archive, rows);
+  // A case without numbers gives the fix itself, 10.
   EXPECT_EQ(rowOf(request, 20).cc, 1);
 }
 
