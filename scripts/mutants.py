@@ -8,6 +8,7 @@ doesn't end; those that no test kills are printed and written to build/mutants/s
 each is a missing test or a change that changes nothing, which then gets a row in EQUIVALENT and isn't tried again. The
 choice is the same in every run; FIRST passes over as many mutants of it.
 """
+import filecmp
 import os
 import pathlib
 import random
@@ -63,9 +64,18 @@ EQUIVALENT = [
      "only a slower way is taken"),
     ("method/hits.cpp", "int m_draw = 0, m_wheel = 1;", "", "play sets it"),
     ("method/hits.cpp", "for (std::size_t turned = 1; turned < lists;) {", "", "sets of one number don't come here"),
+    ("method/hits.cpp", "return true;", "}", "sets that can't hit are tried too"),
+    ("method/hits.cpp", "if (drawn[a] != 0 || drawn[a] == drawn[b]) return true;", "", "sets that can't hit are tried too"),
     ("method/hits.cpp", "for (unsigned k = 0; k <= kPositions; ++k)", "if ((matched >> k", "there are five bits"),
     ("method/detection.cpp", "for (int wheel = 0; wheel <= kWheels; ++wheel) {", "if (!holds(m_s.wheels, wheel)) continue",
      "no selection holds a wheel 11"),
+    ("method/detection.cpp", "for (int c = 0; c < kPositions; ++c) {", "", "no selection holds a position 0"),
+    ("method/detection.cpp", "for (int c = 1; c <= kPositions; ++c) {", "for (int d = c + 1",
+     "no position comes after the last one"),
+    ("method/element_sets.cpp", "for (int w1 = 0; w1 <= kWheels; ++w1)", "for (int w2 = w1 + 1",
+     "no wheel comes after the last one"),
+    ("method/elaboration.cpp", "constexpr int kLeast = 0;  // numbers on a wheel that are listed already", "",
+     "a wheel without a number in play is never listed"),
     ("engine/candidate_check.cpp", "for (int row = 0; row < m_w.FgEv.rows() && row <= kMostCases; ++row)", "",
      "nothing reads the place of the heading row"),
 ]
@@ -95,8 +105,8 @@ def mutants(copy):
     return [(name, number, changed) for name, number, changed, same in found if not same]
 
 
-def build():
-    return subprocess.run(["cmake", "--build", PLACE / "build", "--target", *TESTS], capture_output=True).returncode == 0
+def build(*targets):
+    return subprocess.run(["cmake", "--build", PLACE / "build", "--target", *targets], capture_output=True).returncode == 0
 
 
 def seconds_of(test, share, longest=None):
@@ -110,22 +120,37 @@ def seconds_of(test, share, longest=None):
     return time.monotonic() - begin if run.returncode == 0 else None
 
 
-def killed(usual):
-    """Whether a test notices: with a share of the random settings, or with all of them."""
-    return any(seconds_of(test, share, 10 + PATIENCE * usual[share, test]) is None for share, test in usual)
+def fate(usual):
+    """Whether a test notices, with a share of the random settings or with all of them: each is built when its turn comes,
+    for most changes are noticed by the first."""
+    for share, test in usual:
+        if not build(test):
+            return "unbuilt"
+        if seconds_of(test, share, 10 + PATIENCE * usual[share, test]) is None:
+            return "killed"
+    return "survived"
+
+
+def mirror(copy):
+    """Writes what differs, so that only that is built again: also what a run that was stopped had changed."""
+    def write(source, target):
+        if not os.path.exists(target) or not filecmp.cmp(source, target, shallow=False):
+            shutil.copyfile(source, target)
+
+    for file in copy.rglob("*"):
+        if file.is_file() and not (ROOT / file.relative_to(copy)).exists():
+            file.unlink()
+    shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns(".git", "build"), copy_function=write, dirs_exist_ok=True)
 
 
 def prepare():
     copy = PLACE / "source"
-    shutil.rmtree(copy, ignore_errors=True)
-    shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns(".git", "build"))
-    for name in SOURCES:  # what a run that was stopped had changed is built again
-        (copy / name).touch()
+    mirror(copy)
     subprocess.run(["cmake", "-S", copy, "-B", PLACE / "build", "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
                     "-DCMAKE_CXX_FLAGS=-D_GLIBCXX_ASSERTIONS",  # what reads behind an end is noticed
                     "-DTRV5_GUI=OFF"], check=True, capture_output=True)
     usual = {}
-    if build():
+    if build(*TESTS):
         usual = {(share, test): seconds_of(test, share) for share in SHARES for test in TESTS}
     if not usual or None in usual.values():
         sys.exit("The tests have to pass before anything is changed.")
@@ -145,9 +170,10 @@ def main():
         lines = whole.splitlines(keepends=True)
         before, lines[number] = lines[number].strip(), changed + "\n"
         file.write_text("".join(lines), encoding="utf-8")
-        if not build():
+        result = fate(usual)
+        if result == "unbuilt":
             unbuilt += 1  # the compiler noticed: no mutant
-        elif killed(usual):
+        elif result == "killed":
             dead += 1
         else:
             survivors.append(f"{name}:{number + 1}: {before}  ->  {changed.strip()}")
