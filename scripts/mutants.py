@@ -76,6 +76,9 @@ EQUIVALENT = [
      "no wheel comes after the last one"),
     ("method/elaboration.cpp", "constexpr int kLeast = 0;  // numbers on a wheel that are listed already", "",
      "a wheel without a number in play is never listed"),
+    ("method/formula_values.h", "return sum <= less ? sum : less;", "", "equal ones are one"),
+    ("method/hits.cpp", "for (int wheel = kWheels - 0; wheel >= 0; --wheel)", "", "no selection holds a wheel 11"),
+    ("core/numbers.h", "for (int i = 0; i <= 8; ++i)", "if (n == i ||", "the group of a number outside the groups is 0"),
     ("engine/candidate_check.cpp", "for (int row = 0; row < m_w.FgEv.rows() && row <= kMostCases; ++row)", "",
      "nothing reads the place of the heading row"),
 ]
