@@ -252,6 +252,24 @@ TEST(CcOfTheLunghetta, LeavesOutCandidatesBeyondTheTenthFormula) {
   EXPECT_EQ(world.counts(1), "2 3");
 }
 
+// A formula of an unknown operator gives the number of the evaluation before: that of the candidate before a blank one,
+// which verifies the table once, though "Verifica automatica" verifies each candidate twice.
+TEST(CcOfTheLunghetta, VerifiesTheTableOnceAtABlankCandidate) {
+  CcWorld world;
+  Workbench& w = world.w;
+  for (Grid* const grid : std::initializer_list<Grid*>{&w.FgF, &w.Fg11, &w.Fg22}) grid->cutToHeading();
+  for (const int fix : {85, 38})
+    SevenWorld::addFormula(w.FgF, {.elements = {{0, 1}}, .fix = fix});  // 55 and 8 in the last case
+  for (const int number : {0, 9}) SevenWorld::addNumber(w.FgF, number);
+  SevenWorld::addFormula(w.Fg00, {.elements = {{0, 1}, {0, 2}}, .op = "N1 ? N2", .qn = "2"});
+  SevenWorld::addFormula(w.Fg00, {.elements = {{0, 2}}});
+  for (const bool automatic : {false, true}) {
+    w.ChVerifica.set(automatic);
+    world.press("Command84");
+    EXPECT_EQ(world.counts(3), "1 1") << "the 8 of the candidate before";
+  }
+}
+
 TEST(CcOfTheLunghetta, TellsOnceAPressThatTheTableIsTooLong) {
   CcWorld world;
   Workbench& w = world.w;
