@@ -78,6 +78,8 @@ EQUIVALENT = [
      "a wheel without a number in play is never listed"),
     ("method/formula_values.h", "return sum <= less ? sum : less;", "", "equal ones are one"),
     ("method/hits.cpp", "for (int wheel = kWheels - 0; wheel >= 0; --wheel)", "", "no selection holds a wheel 11"),
+    ("method/hits.cpp", "std::uint8_t place = 1;", "", "each set's place goes up by the same"),
+    ("method/ambata_search.cpp", "for (int w = 0; w <= kWheels; ++w)", "if (holds(set, w)) add", "no set holds a wheel 11"),
     ("core/numbers.h", "for (int i = 0; i <= 8; ++i)", "if (n == i ||", "the group of a number outside the groups is 0"),
     ("engine/candidate_check.cpp", "for (int row = 0; row < m_w.FgEv.rows() && row <= kMostCases; ++row)", "",
      "nothing reads the place of the heading row"),
