@@ -80,6 +80,10 @@ EQUIVALENT = [
     ("method/hits.cpp", "for (int wheel = kWheels - 0; wheel >= 0; --wheel)", "", "no selection holds a wheel 11"),
     ("method/hits.cpp", "std::uint8_t place = 1;", "", "each set's place goes up by the same"),
     ("method/ambata_search.cpp", "for (int w = 0; w <= kWheels; ++w)", "if (holds(set, w)) add", "no set holds a wheel 11"),
+    ("method/detection.cpp", "for (int a = 0; a < kPositions; ++a) {", "for (int b = a + 1",
+     "no selection holds a position 0"),
+    ("method/companion_search.cpp", ": m_request(request), m_outcomes(outcomes), m_place(Archive::kMaxDraws + 1, -1), "
+     "m_used(Archive::kMaxDraws + 2) {}", "", "room that nobody asks for"),
     ("core/numbers.h", "for (int i = 0; i <= 8; ++i)", "if (n == i ||", "the group of a number outside the groups is 0"),
     ("engine/candidate_check.cpp", "for (int row = 0; row < m_w.FgEv.rows() && row <= kMostCases; ++row)", "",
      "nothing reads the place of the heading row"),

@@ -154,13 +154,21 @@ TEST(CompanionSearch, CountsPastTwoHundredFiftyFive) {
 TEST(CompanionSearch, TakesADrawThatCannotBeForOneWithoutNumbers) {
   const Archive archive = archiveOf({kCase, {{"BA", {1, 20, 30, 40, 50}}}});
   std::vector<CompanionRow> rows = {{1, 2, {1}}};
-  for (const int draw :
-       {std::numeric_limits<int>::min(), -1, Archive::kMaxDraws + 1, std::numeric_limits<int>::max()}) {
+  for (const int draw : {std::numeric_limits<int>::min(), -1, Archive::kMaxDraws, Archive::kMaxDraws + 1,
+                         std::numeric_limits<int>::max()}) {
     rows.push_back({1, draw, {1}});
     rows.push_back({draw, 2, {1}});
   }
   const CompanionRequest request = onRows(archive, rows);
   // A case without numbers gives the fix itself, 10.
+  EXPECT_EQ(rowOf(request, 20).cc, 1);
+}
+
+TEST(CompanionSearch, TakesTheLastDrawThatAnArchiveCanHold) {
+  std::vector<WheelNumbers> draws(Archive::kMaxDraws, WheelNumbers{{"BA", {10, 2, 3, 4, 5}}});
+  draws.back() = {{"BA", {1, 20, 30, 40, 50}}};
+  const Archive archive = archiveOf(draws);
+  const CompanionRequest request = onRows(archive, {{Archive::kMaxDraws - 1, Archive::kMaxDraws, {1}}});
   EXPECT_EQ(rowOf(request, 20).cc, 1);
 }
 
