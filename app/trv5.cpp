@@ -5,7 +5,6 @@
 
 #include "core/errors.h"
 #include "core/program.h"
-#include "screens/kit/icons.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/qt_shell.h"
 #include "screens/shell/run_place.h"
@@ -23,7 +22,6 @@ int main(int argc, char** argv) {
   if (words.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(&words);
   trv5::Theme theme(app);
-  QApplication::setWindowIcon(trv5::programMark());
 
   trv5::QtShell shell;
   trv5::Program program(shell, trv5::programFolder(), trv5::shippedModel());

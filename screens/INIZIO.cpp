@@ -62,7 +62,6 @@ QWidget* archivePanel(Kit& kit, QPushButton* choose) {
 }  // namespace
 
 InizioScreen::InizioScreen(Inizio& form) : Screen(form) {
-  setWindowIcon(programMark());
   Theme::edit().dressWindow(*this);
 
   QPushButton* const choose = kit.button("Command4", {.icon = "folder", .mnemonic = 'A'});

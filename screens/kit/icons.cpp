@@ -1,5 +1,6 @@
 #include "screens/kit/icons.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -78,7 +79,7 @@ QIcon icon(const QString& name, IconInk ink) {
 }
 
 QIcon programMark() {
-  return QIcon(QStringLiteral(":/screens/icons/mark.svg"));
+  return QApplication::windowIcon();
 }
 
 IconLabel::IconLabel(QIcon shown, int size, QWidget* parent) : QWidget(parent), m_icon(std::move(shown)), m_size(size) {

@@ -220,7 +220,9 @@ Theme::Theme(QApplication& app) : m_app(app), m_desktopDark(desktopIsDark()), m_
   assert(of(app) == nullptr);
   setParent(&app);
   initScreensResources();
-  // Each window that opens leaves its pictures of the program's mark there, under names that nobody asks for again.
+  // Each icon leaves its pictures there, under names that nobody asks for again and that Qt keeps when the pictures
+  // have gone: the windows share this one, also those that Qt would give an icon of the style.
+  m_app.setWindowIcon(QIcon(QStringLiteral(":/screens/icons/mark.svg")));
   QPixmapCache::setCacheLimit(kPixmapCacheKilobytes);
   m_app.setStyle(new UnitStyle(*this));
   apply();

@@ -39,7 +39,6 @@ ContainerScreen::ContainerScreen(Container& form)
     : m_form(form), m_kit(form), m_centre(new QWidget), m_rail(new QWidget(m_centre)), m_area(new QMdiArea(m_centre)) {
   setObjectName(qs(form.name()));
   setWindowTitle(qs(form.title()));
-  setWindowIcon(programMark());
   setMinimumSize(1024, 600);
   m_form.titleChanged = [this] {
     setWindowTitle(qs(m_form.title()));

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "screens/kit/icons.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/Container.h"
 
@@ -80,7 +79,6 @@ void ContainerScreen::place(QWidget& screen, const ScreenEntry& entry) {
   }
   window->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
                          Qt::WindowStaysOnTopHint);
-  window->setWindowIcon(programMark());
   window->setProperty(kNaturalSize, entry.size);
   const QSize size = naturalSize(*window);
   const int left = entry.atRight ? m_area->width() - size.width() - kEdgeGap : (m_area->width() - size.width()) / 2;

@@ -15,7 +15,6 @@
 #include <algorithm>
 
 #include "help/help_pages.h"
-#include "screens/kit/icons.h"
 #include "screens/kit/kit.h"
 #include "screens/kit/theme.h"
 #include "screens/shell/help_search.h"
@@ -76,7 +75,6 @@ HelpViewer::HelpViewer(QWidget* parent)
     : QWidget(parent, Qt::Window), m_browser(new HelpPage), m_words(new QLineEdit), m_hits(new QListWidget) {
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("TRV 5: Help in linea"));
-  setWindowIcon(programMark());
   Theme::edit().dressWindow(*this);
   m_browser->setObjectName(QStringLiteral("pagina"));
   m_browser->setProperty("lines", true);

@@ -13,6 +13,7 @@
 #include "engine/result_forms.h"
 #include "maintenance/mini_list.h"
 #include "screens/EvoluzioneGrafica.h"
+#include "screens/kit/icons.h"
 #include "screens/kit/theme.h"
 #include "window_world.h"
 
@@ -83,6 +84,18 @@ TEST(SmallScreens, HaveATitleInTheColoursOfTheTheme) {
     }
   }
   Theme::edit().setDark(false);
+}
+
+// Each icon of its own would leave its pictures' names in Qt's cache for ever.
+TEST(SmallScreens, ShareTheProgramsIconWithAllWindows) {
+  SmallScreensWorld world;
+  world.shell.show("Estrazioni_minielenco");
+  settle();
+  const qint64 mark = QApplication::windowIcon().cacheKey();
+  ASSERT_FALSE(QApplication::windowIcon().isNull());
+  EXPECT_EQ(world.window("Estrazioni_minielenco").windowIcon().cacheKey(), mark);
+  EXPECT_EQ(world.container->windowIcon().cacheKey(), mark);
+  EXPECT_EQ(programMark().cacheKey(), mark);
 }
 
 TEST(SmallScreens, CloseWithEsc) {
