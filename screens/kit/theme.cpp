@@ -32,6 +32,35 @@ namespace {
 
 constexpr int kPixmapCacheKilobytes = 1024;
 
+QPalette paletteOf(const ChromeColours& c) {
+  QPalette palette;
+  const auto set = [&](QPalette::ColorRole role, Rgb colour) { palette.setColor(role, toColor(colour)); };
+  set(QPalette::Window, c.window);
+  set(QPalette::WindowText, c.text);
+  set(QPalette::Base, c.field);
+  set(QPalette::AlternateBase, c.panel);
+  set(QPalette::Text, c.text);
+  set(QPalette::Button, c.button);
+  set(QPalette::ButtonText, c.text);
+  set(QPalette::BrightText, c.danger);
+  set(QPalette::ToolTipBase, c.field);
+  set(QPalette::ToolTipText, c.text);
+  set(QPalette::PlaceholderText, c.text2);
+  set(QPalette::Highlight, c.accent);
+  set(QPalette::HighlightedText, c.onAccent);
+  set(QPalette::Link, c.accent);
+  set(QPalette::LinkVisited, c.accent);
+  set(QPalette::Light, c.panel);
+  set(QPalette::Midlight, c.line);
+  set(QPalette::Mid, c.edge);
+  set(QPalette::Dark, c.edge);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, toColor(c.disabled));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, toColor(c.edge));
+  palette.setColor(QPalette::Disabled, QPalette::Base, toColor(c.panel));
+  return palette;
+}
+
 // Layouts that set no spacing of their own take the unit, so that they follow a change of density or font.
 class UnitStyle : public QProxyStyle {
  public:
@@ -141,6 +170,8 @@ class UnitStyle : public QProxyStyle {
     }
     QStyleOptionSlider groove = *bar;
     groove.subControls &= ~SC_ScrollBarSlider;
+    // Fusion keeps a picture of the arrows for each palette, and each widget has one of its own.
+    groove.palette = m_theme.dark() ? m_darkPalette : m_lightPalette;
     QProxyStyle::drawComplexControl(control, &groove, painter, widget);
     if (bar->maximum <= bar->minimum) return;
     const ChromeColours& c = Theme::current().colours();
@@ -178,36 +209,8 @@ class UnitStyle : public QProxyStyle {
   }
 
   const Theme& m_theme;
+  const QPalette m_lightPalette = paletteOf(kLightColours), m_darkPalette = paletteOf(kDarkColours);
 };
-
-QPalette paletteOf(const ChromeColours& c) {
-  QPalette palette;
-  const auto set = [&](QPalette::ColorRole role, Rgb colour) { palette.setColor(role, toColor(colour)); };
-  set(QPalette::Window, c.window);
-  set(QPalette::WindowText, c.text);
-  set(QPalette::Base, c.field);
-  set(QPalette::AlternateBase, c.panel);
-  set(QPalette::Text, c.text);
-  set(QPalette::Button, c.button);
-  set(QPalette::ButtonText, c.text);
-  set(QPalette::BrightText, c.danger);
-  set(QPalette::ToolTipBase, c.field);
-  set(QPalette::ToolTipText, c.text);
-  set(QPalette::PlaceholderText, c.text2);
-  set(QPalette::Highlight, c.accent);
-  set(QPalette::HighlightedText, c.onAccent);
-  set(QPalette::Link, c.accent);
-  set(QPalette::LinkVisited, c.accent);
-  set(QPalette::Light, c.panel);
-  set(QPalette::Midlight, c.line);
-  set(QPalette::Mid, c.edge);
-  set(QPalette::Dark, c.edge);
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    palette.setColor(QPalette::Disabled, role, toColor(c.disabled));
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, toColor(c.edge));
-  palette.setColor(QPalette::Disabled, QPalette::Base, toColor(c.panel));
-  return palette;
-}
 
 bool desktopIsDark() {
   const QPalette palette = QGuiApplication::palette();
