@@ -131,6 +131,12 @@ class UnitStyle : public QProxyStyle {
       QProxyStyle::drawPrimitive(element, &edged, painter, widget);
       return;
     }
+    if (element == PE_IndicatorArrowDown || element == PE_IndicatorArrowUp || element == PE_IndicatorArrowLeft ||
+        element == PE_IndicatorArrowRight) {
+      const QStyleOption arrow = withPaletteOfScheme(*option);
+      QProxyStyle::drawPrimitive(element, &arrow, painter, widget);
+      return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
 
@@ -168,10 +174,8 @@ class UnitStyle : public QProxyStyle {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
       return;
     }
-    QStyleOptionSlider groove = *bar;
+    QStyleOptionSlider groove = withPaletteOfScheme(*bar);
     groove.subControls &= ~SC_ScrollBarSlider;
-    // Fusion keeps a picture of the arrows for each palette, and each widget has one of its own.
-    groove.palette = m_theme.dark() ? m_darkPalette : m_lightPalette;
     QProxyStyle::drawComplexControl(control, &groove, painter, widget);
     if (bar->maximum <= bar->minimum) return;
     const ChromeColours& c = Theme::current().colours();
@@ -200,6 +204,15 @@ class UnitStyle : public QProxyStyle {
   }
 
  private:
+  // Fusion keeps a picture of an arrow for each palette, and each widget has one of its own.
+  template <class Option>
+  Option withPaletteOfScheme(const Option& option) const {
+    Option shared = option;
+    shared.palette = m_theme.dark() ? m_darkPalette : m_lightPalette;
+    shared.palette.setCurrentColorGroup(option.palette.currentColorGroup());
+    return shared;
+  }
+
   int padding(PixelMetric metric, const QWidget& widget) const {
     const int padding = m_theme.panelPadding();
     // The page of a tab has its own: the line below the tabs runs over the whole panel, and parts them at the top.

@@ -4,7 +4,11 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QPalette>
+#include <QStyle>
+#include <QStyleOption>
 
 #include "screens/kit/ink.h"
 
@@ -45,6 +49,36 @@ TEST(Theme, DialogsAndMenusFollowThroughThePalette) {
     EXPECT_EQ(palette.color(QPalette::HighlightedText), toColor(c.onAccent));
     EXPECT_EQ(palette.color(QPalette::Disabled, QPalette::Text), toColor(c.disabled));
   }
+}
+
+QImage arrow(QStyle::PrimitiveElement element, QPalette palette, QPalette::ColorGroup group) {
+  QImage drawn(16, 16, QImage::Format_ARGB32_Premultiplied);
+  drawn.fill(Qt::transparent);
+  QPainter painter(&drawn);
+  QStyleOption option;
+  option.rect = drawn.rect();
+  option.state = group == QPalette::Disabled ? QStyle::State_None : QStyle::State_Enabled;
+  option.palette = std::move(palette);
+  option.palette.setCurrentColorGroup(group);
+  QApplication::style()->drawPrimitive(element, &option, &painter);
+  return drawn;
+}
+
+// One palette for each widget would leave a name for each in Qt's cache of pictures, for ever.
+TEST(Theme, ArrowsTakeTheColoursOfTheSchemeNotTheWidgets) {
+  const Restore restore;
+  QImage scheme[2];
+  for (const bool dark : {false, true}) {
+    Theme::edit().setDark(dark);
+    for (const auto element : {QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown,
+                               QStyle::PE_IndicatorArrowLeft, QStyle::PE_IndicatorArrowRight}) {
+      const QImage enabled = arrow(element, QApplication::palette(), QPalette::Active);
+      EXPECT_EQ(arrow(element, QPalette(Qt::red), QPalette::Active), enabled) << element << dark;
+      EXPECT_NE(arrow(element, QApplication::palette(), QPalette::Disabled), enabled) << element << dark;
+      scheme[dark ? 1 : 0] = enabled;
+    }
+  }
+  EXPECT_NE(scheme[0], scheme[1]);
 }
 
 TEST(Theme, TheStyleSheetHasEveryMarkFilledInAndStaysShort) {
